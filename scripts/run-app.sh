@@ -1,0 +1,6 @@
+#!/usr/bin/env bash
+# Sets up, builds and runs QuivraMac.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+scripts/setup.sh
+exec build/src/app/quivramac "$@"

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs what building, running and testing QuivraMac needs on Debian 12 or Ubuntu, then
+# configures and builds it in ./build. Only missing packages are installed.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+packages=(
+    # build
+    cmake ninja-build g++ pkgconf qt6-base-dev qt6-base-dev-tools libgl-dev
+    libavahi-compat-libdnssd-dev
+    # run: pgrep, DNS-SD daemon and its bus
+    procps avahi-daemon dbus
+    # tests: real SSH server and client, service browser, network namespaces
+    avahi-utils openssh-server openssh-client iproute2 util-linux
+)
+
+missing=()
+for package in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" \
+        || missing+=("$package")
+done
+if ((${#missing[@]})); then
+    sudo=()
+    [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+    echo "Installing: ${missing[*]}"
+    "${sudo[@]}" apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends \
+        "${missing[@]}"
+fi
+
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
+cmake --build build

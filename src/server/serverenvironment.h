@@ -1,0 +1,24 @@
+#pragma once
+
+#include "net/localaddress.h"
+#include "platform/bundlepaths.h"
+#include "platform/processtable.h"
+
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+// What ServerManager takes from the machine. The defaults are the real machine; tests replace
+// pieces (a fake etserver, a guarded process table, a short uptime tick, a free port).
+struct ServerEnvironment
+{
+    std::function<QString()> locateExecutable = platform::findEtserver;
+    std::function<QString()> supportDirectory = platform::supportDirectory;
+    std::function<QString()> localIP = net::getLocalIP;
+    std::shared_ptr<platform::ProcessTable> processes = platform::ProcessTable::system();
+    QString pgrepProgram = QStringLiteral("/usr/bin/pgrep");
+    std::chrono::milliseconds uptimeInterval { 1000 };
+    quint16 pairingPort = 8080;
+};

@@ -1,0 +1,171 @@
+#include "platform/userdefaults.h"
+#include "server/processids.h"
+#include "server/servermanager.h"
+#include "testsupport.h"
+
+#include <QSettings>
+
+#include <csignal>
+
+using testsupport::GuardedProcessTable;
+
+// Orphans are real processes that this test starts detached, as a crashed earlier instance would
+// have left them; only those may be signalled.
+class TestOrphanCleanup : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<GuardedProcessTable> m_processes;
+    QList<qint64> m_started;
+    QString m_support;
+
+    qint64 startDetached(const QString &program, const QStringList &arguments)
+    {
+        qint64 pid = 0;
+        if (!QProcess::startDetached(program, arguments, QString(), &pid))
+            return 0;
+        m_started.append(pid);
+        m_processes->allow(pid);
+        return pid;
+    }
+
+    qint64 startOrphan()
+    {
+        const QStringList arguments { "--port",
+                                      "2022",
+                                      "--pidfile",
+                                      m_support + "/etserver.pid",
+                                      "--logdir",
+                                      m_support,
+                                      "--serverfifo",
+                                      "/tmp/et.fifo",
+                                      "--logtostdout",
+                                      "--verbose",
+                                      "1" };
+        const qint64 pid = startDetached(testsupport::fakeEtserverPath(), arguments);
+        // Construction must find it by its executable, so wait until it is exec'd.
+        if (!QTest::qWaitFor([&] { return m_processes->isOwnServer(pid); }, 5000))
+            return 0;
+        return pid;
+    }
+
+    std::unique_ptr<ServerManager> construct()
+    {
+        return std::make_unique<ServerManager>(testsupport::environment(m_processes));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QSettings(QStringLiteral("Quivra"), QStringLiteral("QuivraMac")).clear();
+        userdefaults::setValue(QStringLiteral("autoStartServer"), false);
+        qunsetenv("FAKE_ETSERVER_WRITE_PIDFILE");
+        qunsetenv("FAKE_ETSERVER_IGNORE_TERM");
+        m_processes = std::make_shared<GuardedProcessTable>();
+        m_support = ServerManager(testsupport::environment(m_processes)).supportDirectory();
+    }
+
+    void cleanup()
+    {
+        for (const qint64 pid : std::as_const(m_started))
+            m_processes->signal(pid, SIGKILL);
+        m_started.clear();
+        QFile::remove(m_support + "/etserver.pid");
+    }
+
+    void orphanFromPidFileIsStoppedBeforeAnythingElse()
+    {
+        qputenv("FAKE_ETSERVER_WRITE_PIDFILE", "1");
+        const qint64 orphan = startOrphan();
+        QVERIFY(orphan > 0);
+        QTRY_VERIFY(QFile::exists(m_support + "/etserver.pid"));
+        testsupport::ConsoleCapture console;
+        const auto manager = construct();
+        QVERIFY(!m_processes->exists(orphan));
+        QVERIFY(!QFile::exists(m_support + "/etserver.pid"));
+        const QString found =
+            QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)\n").arg(orphan);
+        QCOMPARE(manager->logs(), found + "[QuivraMac] Cleaned up orphaned server(s)\n");
+        QCOMPARE(console.lines(),
+                 QStringList { QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(orphan) });
+    }
+
+    void orphanIgnoringTermIsFoundByProcessTableAndKilled()
+    {
+        qputenv("FAKE_ETSERVER_IGNORE_TERM", "1");
+        const qint64 orphan = startOrphan();
+        QVERIFY(orphan > 0);
+        testsupport::ConsoleCapture console;
+        const auto manager = construct();
+        QVERIFY(!m_processes->exists(orphan));
+        QCOMPARE(manager->logs(),
+                 QStringLiteral("[QuivraMac] Found orphaned server (PID %1 via pgrep)\n"
+                                "[QuivraMac] Cleaned up orphaned server(s)\n")
+                     .arg(orphan));
+        QCOMPARE(console.lines(),
+                 (QStringList {
+                     QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(orphan),
+                     QStringLiteral("[QuivraMac] Force killing etserver PID %1").arg(orphan) }));
+    }
+
+    void commandLinesThatOnlyMentionEtserverSurvive()
+    {
+        // pgrep -f etserver lists this shell; it is not an etserver and must not be touched.
+        const qint64 lookalike =
+            startDetached("/bin/sh", { "-c", "while :; do sleep 1; done", "etserver" });
+        QVERIFY(lookalike > 0);
+        QProcess pgrep;
+        pgrep.start("/usr/bin/pgrep", { "-f", "etserver" });
+        QVERIFY(pgrep.waitForFinished());
+        QVERIFY(processids::parseList(pgrep.readAllStandardOutput()).contains(lookalike));
+
+        const auto manager = construct();
+        QVERIFY(m_processes->exists(lookalike));
+        QVERIFY(!m_processes->refused().contains(lookalike));
+        QVERIFY(!manager->logs().contains(QString::number(lookalike)));
+    }
+
+    void unusablePidFilesSignalNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("letters") << QByteArray("abc\n");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("negative") << QByteArray("-1\n");
+        QTest::newRow("zero") << QByteArray("0");
+    }
+
+    void unusablePidFilesSignalNothing()
+    {
+        QFETCH(QByteArray, content);
+        const QString pidFile = m_support + "/etserver.pid";
+        QFile file(pidFile);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        auto manager = construct();
+        QVERIFY(m_processes->refused().isEmpty());
+        QVERIFY(!manager->logs().contains("from pidfile"));
+        // Unparsable files stay at construction and go at quit; numbers are consumed at once.
+        QCOMPARE(QFile::exists(pidFile), !processids::parse(QString::fromUtf8(content)));
+        manager->stopServerForQuit();
+        QVERIFY(!QFile::exists(pidFile));
+        QVERIFY(m_processes->refused().isEmpty());
+    }
+
+    void quitWithServerStoppedStillStopsPidFileProcess()
+    {
+        const auto manager = construct();
+        const qint64 orphan = startOrphan();
+        QVERIFY(orphan > 0);
+        QFile file(m_support + "/etserver.pid");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::number(orphan) + "\n");
+        file.close();
+        manager->stopServerForQuit();
+        QVERIFY(!m_processes->exists(orphan));
+        QVERIFY(!file.exists());
+    }
+};
+
+QUIVRA_TEST_MAIN(TestOrphanCleanup)
+#include "tst_orphancleanup.moc"

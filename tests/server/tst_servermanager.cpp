@@ -1,0 +1,234 @@
+#include "platform/userdefaults.h"
+#include "server/servermanager.h"
+#include "testsupport.h"
+
+#include <QDir>
+#include <QSettings>
+
+using testsupport::GuardedProcessTable;
+
+namespace {
+
+QStringList logLines(const ServerManager &manager)
+{
+    return manager.logs().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+const char *fakeSettings[] = { "FAKE_ETSERVER_OUTPUT", "FAKE_ETSERVER_IGNORE_TERM",
+                               "FAKE_ETSERVER_EXIT_CODE", "FAKE_ETSERVER_BURST_BYTES",
+                               "FAKE_ETSERVER_WRITE_PIDFILE" };
+
+} // namespace
+
+class TestServerManager : public QObject
+{
+    Q_OBJECT
+
+    std::shared_ptr<GuardedProcessTable> m_processes;
+    std::unique_ptr<ServerManager> m_manager;
+
+    ServerManager &makeManager(ServerEnvironment env)
+    {
+        m_manager = std::make_unique<ServerManager>(std::move(env));
+        return *m_manager;
+    }
+    ServerManager &makeManager() { return makeManager(testsupport::environment(m_processes)); }
+
+private Q_SLOTS:
+    void init()
+    {
+        QSettings(QStringLiteral("Quivra"), QStringLiteral("QuivraMac")).clear();
+        userdefaults::setValue(QStringLiteral("autoStartServer"), false);
+        for (const char *name : fakeSettings)
+            qunsetenv(name);
+        m_processes = std::make_shared<GuardedProcessTable>();
+    }
+
+    void cleanup()
+    {
+        if (m_manager)
+            m_manager->stopServer();
+        m_manager.reset();
+    }
+
+    void startsWithExactCommandLineAndMessages()
+    {
+        qputenv("FAKE_ETSERVER_OUTPUT", "ready\\n");
+        testsupport::ConsoleCapture console;
+        ServerManager &manager = makeManager();
+        QCOMPARE(manager.port(), 2022);
+        QCOMPARE(manager.pairingToken().size(), 6);
+        manager.startServer();
+        QVERIFY(manager.isRunning());
+        // The fake refuses to run with any other arguments than the eleven expected.
+        QTRY_VERIFY(manager.logs().contains("[etserver] ready\n"));
+
+        const QString support = manager.supportDirectory();
+        QVERIFY(support.startsWith(QDir::homePath()) && support.endsWith("/QuivraMac"));
+        QCOMPARE(manager.serverProcess()->workingDirectory(),
+                 QFileInfo(testsupport::fakeEtserverPath()).absolutePath());
+        QCOMPARE(logLines(manager).mid(0, 3),
+                 (QStringList { "[QuivraMac] Support dir: " + support,
+                                "[QuivraMac] FIFO path: /tmp/et.fifo (12 chars)",
+                                "[QuivraMac] Starting server on port 2022..." }));
+        QCOMPARE(console.lines().mid(0, 4),
+                 (QStringList {
+                     "App support directory: " + support, "FIFO path: /tmp/et.fifo (12 chars)",
+                     "Starting Quivra Server from " + testsupport::fakeEtserverPath() + "...",
+                     "[etserver] ready" }));
+    }
+
+    void missingExecutableOnlyReports()
+    {
+        testsupport::ConsoleCapture console;
+        ServerEnvironment env = testsupport::environment(m_processes);
+        env.locateExecutable = [] { return QString(); };
+        ServerManager &manager = makeManager(env);
+        manager.startServer();
+        QVERIFY(!manager.isRunning());
+        QCOMPARE(manager.logs(), "[QuivraMac] Error: etserver binary not found in app bundle\n");
+        QCOMPARE(console.lines(), QStringList { "Error: etserver not found in bundle" });
+    }
+
+    void restartStopsFirstAndIgnoresOldExitNotice()
+    {
+        ServerManager &manager = makeManager();
+        manager.startServer();
+        const qint64 firstPid = manager.serverProcess()->processId();
+        manager.setLogs({});
+        manager.startServer();
+        const QStringList lines = logLines(manager);
+        QCOMPARE(lines.at(0),
+                 QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(firstPid));
+        QCOMPARE(lines.at(1), "[QuivraMac] Server stopped");
+        QVERIFY(lines.at(2).startsWith("[QuivraMac] Support dir: "));
+        QCOMPARE(lines.at(4), "[QuivraMac] Starting server on port 2022...");
+        // The first child's exit arrives after the new start and leaves the new child alone.
+        QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 15\n"));
+        QVERIFY(manager.isRunning());
+        QTRY_VERIFY(manager.uptime() >= 1.0);
+    }
+
+    void stopEndsWithStoppedThenExitNotice()
+    {
+        ServerManager &manager = makeManager();
+        manager.startServer();
+        const QString pidFile = manager.pidFilePath();
+        QFile(pidFile).open(QIODevice::WriteOnly);
+        manager.stopServer();
+        QVERIFY(!manager.isRunning());
+        QVERIFY(!manager.serverProcess());
+        QCOMPARE(manager.uptime(), 0.0);
+        QVERIFY(!QFile::exists(pidFile));
+        QVERIFY(manager.logs().endsWith("[QuivraMac] Server stopped\n"));
+        QTRY_VERIFY(manager.logs().endsWith(
+            "[QuivraMac] Server stopped\n[QuivraMac] Server exited with code 15\n"));
+    }
+
+    void childIgnoringTermIsKilledAfterBoundedWait()
+    {
+        qputenv("FAKE_ETSERVER_IGNORE_TERM", "1");
+        qputenv("FAKE_ETSERVER_OUTPUT", "up\\n");
+        ServerManager &manager = makeManager();
+        manager.startServer();
+        QTRY_VERIFY(manager.logs().contains("[etserver] up"));
+        QElapsedTimer clock;
+        clock.start();
+        manager.stopServer();
+        QVERIFY2(clock.elapsed() >= 1900 && clock.elapsed() < 4000,
+                 qPrintable(QString::number(clock.elapsed())));
+        QVERIFY(
+            manager.logs().endsWith("[QuivraMac] Force killing server (didn't exit gracefully)\n"
+                                    "[QuivraMac] Server stopped\n"));
+        QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 9\n"));
+    }
+
+    void childExitingByItselfKeepsProcessUntilStop()
+    {
+        qputenv("FAKE_ETSERVER_EXIT_CODE", "3");
+        ServerManager &manager = makeManager();
+        manager.startServer();
+        manager.togglePairingMode();
+        QVERIFY(manager.isPairing());
+        QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 3\n"));
+        QVERIFY(!manager.isRunning());
+        QVERIFY(!manager.isPairing());
+        QCOMPARE(manager.uptime(), 0.0);
+        QVERIFY(manager.serverProcess());
+
+        manager.setLogs({});
+        manager.stopServer();
+        QCOMPARE(logLines(manager).size(), 2);
+        QVERIFY(logLines(manager).at(0).startsWith("[QuivraMac] Stopping server (PID "));
+        QCOMPARE(logLines(manager).at(1), "[QuivraMac] Server stopped");
+        QVERIFY(!manager.serverProcess());
+    }
+
+    void uptimeCountsWhileRunningAndResets()
+    {
+        ServerManager &manager = makeManager();
+        QSignalSpy ticks(&manager, &ServerManager::uptimeChanged);
+        manager.startServer();
+        QTRY_VERIFY(manager.uptime() >= 3.0);
+        QCOMPARE(double(ticks.size()), manager.uptime()); // exactly one step per tick
+        manager.stopServer();
+        QCOMPARE(manager.uptime(), 0.0);
+        QList<double> values;
+        QObject scope;
+        connect(&manager, &ServerManager::uptimeChanged, &scope,
+                [&] { values.append(manager.uptime()); });
+        manager.startServer();
+        QTRY_VERIFY(values.size() >= 2);
+        QCOMPARE(values.mid(0, 2), (QList<double> { 1.0, 2.0 }));
+    }
+
+    void serverOutputIsLoggedAndBounded()
+    {
+        qputenv("FAKE_ETSERVER_OUTPUT", "one\\ntwo\\n\\xff\\xfe\\n");
+        qputenv("FAKE_ETSERVER_BURST_BYTES", "300000");
+        ServerManager &manager = makeManager();
+        manager.startServer();
+        QTRY_VERIFY(manager.logs().size() >= 9000);
+        QTRY_VERIFY(manager.logs().endsWith("burst line of server output, 48 bytes\n"));
+        QVERIFY(manager.logs().size() <= 10000);
+        QVERIFY(!manager.logs().contains(QChar::ReplacementCharacter));
+    }
+
+    void togglingPairingIssuesFreshCodes()
+    {
+        ServerManager &manager = makeManager();
+        QSet<QString> codes;
+        for (int i = 0; i < 20; ++i) {
+            manager.togglePairingMode();
+            QVERIFY(manager.isPairing());
+            codes.insert(manager.pairingToken());
+            const QString code = manager.pairingToken();
+            manager.togglePairingMode();
+            QCOMPARE(manager.pairingToken(), code); // turning off keeps the last code
+        }
+        QVERIFY(codes.size() > 15);
+        QVERIFY(manager.logs().contains("[QuivraMac] Pairing mode enabled. Token: "));
+        QVERIFY(manager.logs().endsWith("[QuivraMac] Pairing mode disabled\n"));
+    }
+
+    void pairingCodesAreUniformDigits()
+    {
+        int counts[6][10] = {};
+        for (int i = 0; i < 3000; ++i) {
+            const QString token = ServerManager::generatePairingToken();
+            QCOMPARE(token.size(), 6);
+            for (int position = 0; position < 6; ++position) {
+                const int digit = token.at(position).digitValue();
+                QVERIFY(digit >= 0 && digit <= 9);
+                ++counts[position][digit];
+            }
+        }
+        for (const auto &position : counts) {
+            for (const int count : position)
+                QVERIFY2(count > 200, "a digit is missing or rare in a position");
+        }
+    }
+};
+
+QUIVRA_TEST_MAIN(TestServerManager)
+#include "tst_servermanager.moc"

@@ -1,0 +1,73 @@
+#include "testsupport.h"
+
+#include <QDir>
+#include <QStandardPaths>
+#include <QTcpServer>
+
+namespace testsupport {
+
+QString isolateHome()
+{
+    static QTemporaryDir home;
+    const QString path = home.path();
+    qputenv("HOME", path.toUtf8());
+    qputenv("XDG_DATA_HOME", (path + QStringLiteral("/.local/share")).toUtf8());
+    qputenv("XDG_CONFIG_HOME", (path + QStringLiteral("/.config")).toUtf8());
+    qputenv("XDG_CACHE_HOME", (path + QStringLiteral("/.cache")).toUtf8());
+    QStandardPaths::setTestModeEnabled(true);
+    return path;
+}
+
+bool GuardedProcessTable::signal(qint64 pid, int signalNumber)
+{
+    if (!m_allowed.contains(pid)) {
+        m_refused.append(pid);
+        return false;
+    }
+    return ProcessTable::signal(pid, signalNumber);
+}
+
+QString fakeEtserverPath()
+{
+    return QStringLiteral(QUIVRA_FAKE_ETSERVER);
+}
+
+ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes)
+{
+    ServerEnvironment env;
+    env.locateExecutable = [] { return fakeEtserverPath(); };
+    env.processes = std::move(processes);
+    env.uptimeInterval = std::chrono::milliseconds(20);
+    env.pairingPort = freeTcpPort();
+    return env;
+}
+
+quint16 freeTcpPort()
+{
+    QTcpServer probe;
+    probe.listen(QHostAddress::Any, 0);
+    return probe.serverPort();
+}
+
+void quietConsole()
+{
+    if (qEnvironmentVariableIsEmpty("QUIVRA_TEST_VERBOSE"))
+        console::setSink([](const QString &) {});
+}
+
+ConsoleCapture::ConsoleCapture()
+{
+    m_previous = console::setSink([lines = m_lines](const QString &line) { lines->append(line); });
+}
+
+ConsoleCapture::~ConsoleCapture()
+{
+    console::setSink(m_previous);
+}
+
+QStringList ConsoleCapture::lines() const
+{
+    return *m_lines;
+}
+
+} // namespace testsupport

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/console.h"
+#include "platform/processtable.h"
+#include "server/serverenvironment.h"
+
+#include <QSet>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace testsupport {
+
+// Points HOME, the XDG directories and QStandardPaths at a fresh temporary directory, so that no
+// test reads or writes the real user's files. Called before the application object exists.
+QString isolateHome();
+
+// A process table that signals only the processes a test started itself.
+class GuardedProcessTable : public platform::ProcessTable
+{
+public:
+    void allow(qint64 pid) { m_allowed.insert(pid); }
+    bool signal(qint64 pid, int signalNumber) override;
+    QList<qint64> refused() const { return m_refused; }
+
+private:
+    QSet<qint64> m_allowed;
+    QList<qint64> m_refused;
+};
+
+// The test build of etserver (see fake_etserver/).
+QString fakeEtserverPath();
+
+// The real machine, except: the fake etserver, the guarded process table, a 20 ms uptime tick and
+// a free pairing port.
+ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes);
+
+quint16 freeTcpPort();
+
+// Console lines are dropped unless QUIVRA_TEST_VERBOSE is set; ConsoleCapture still sees them.
+void quietConsole();
+
+// Collects console lines while it lives.
+class ConsoleCapture
+{
+public:
+    ConsoleCapture();
+    ~ConsoleCapture();
+    QStringList lines() const;
+
+private:
+    console::Sink m_previous;
+    std::shared_ptr<QStringList> m_lines = std::make_shared<QStringList>();
+};
+
+} // namespace testsupport
+
+// QTEST_GUILESS_MAIN with the isolated home.
+#define QUIVRA_TEST_MAIN(TestObject)                                                               \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        testsupport::isolateHome();                                                                \
+        testsupport::quietConsole();                                                               \
+        QCoreApplication app(argc, argv);                                                          \
+        TestObject test;                                                                           \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }
