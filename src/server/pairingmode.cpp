@@ -1,6 +1,8 @@
 #include "platform/console.h"
+#include "server/authorizedkeys.h"
 #include "server/servermanager.h"
 
+#include <QDir>
 #include <QRandomGenerator>
 
 QString ServerManager::generatePairingToken()
@@ -28,4 +30,43 @@ void ServerManager::togglePairingMode()
     } else {
         log(QStringLiteral("[QuivraMac] Pairing mode disabled"));
     }
+}
+
+void ServerManager::startPairingListener()
+{
+    m_pairingListener.reset(new PairingListener(this));
+    m_pairingListener->onKeyReceived = [this](const QString &key) {
+        return installAuthorizedKey(key);
+    };
+    m_pairingListener->onPairingSuccess = [this](const PairingResult &result) {
+        setLastPairedDevice(result.deviceName);
+        setPairing(false);
+        log(QStringLiteral("[QuivraMac] Paired with ") + result.deviceName);
+    };
+    m_pairingListener->start(m_env.pairingPort, m_env.advertise);
+    log(QStringLiteral("[QuivraMac] Bonjour listener started (iOS can discover)"));
+}
+
+void ServerManager::stopPairingListener()
+{
+    if (m_pairingListener) {
+        m_pairingListener->stop();
+        m_pairingListener.reset();
+    }
+    setPairing(false);
+}
+
+bool ServerManager::installAuthorizedKey(const QString &publicKey)
+{
+    if (const auto error =
+            authorizedkeys::install(QDir::homePath(), publicKey, QDate::currentDate())) {
+        console::line(QStringLiteral("Failed to save key: ") + *error);
+        log(QStringLiteral("[QuivraMac] Pairing failed: ") + *error);
+        return false;
+    }
+    console::line(QStringLiteral("Successfully added key to authorized_keys"));
+    log(QStringLiteral("[QuivraMac] Pairing successful - key added"));
+    // The advertisement ends with the listener, until the server is started again.
+    stopPairingListener();
+    return true;
 }

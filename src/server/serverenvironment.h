@@ -21,4 +21,6 @@ struct ServerEnvironment
     QString pgrepProgram = QStringLiteral("/usr/bin/pgrep");
     std::chrono::milliseconds uptimeInterval { 1000 };
     quint16 pairingPort = 8080;
+    // Whether the pairing listener registers itself with the DNS-SD daemon.
+    bool advertise = true;
 };

@@ -122,6 +122,7 @@ void ServerManager::startServer()
             this, [this, generation, code] { onServerExited(generation, code); },
             Qt::QueuedConnection);
     });
+    startPairingListener();
 }
 
 void ServerManager::stopServer()
@@ -132,6 +133,7 @@ void ServerManager::stopServer()
     console::line(QStringLiteral("Stopping Quivra Server (PID %1)...").arg(pid));
     log(QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(pid));
 
+    stopPairingListener();
     QProcess *process = m_serverProcess.get();
     if (process->state() != QProcess::NotRunning) {
         process->terminate();
@@ -182,7 +184,7 @@ void ServerManager::resetRunningState()
     setRunning(false);
     m_uptimeTimer.stop();
     setUptime(0);
-    setPairing(false);
+    stopPairingListener();
 }
 
 void ServerManager::appendServerOutput(const QByteArray &chunk)
@@ -240,6 +242,14 @@ void ServerManager::setPairingToken(const QString &token)
         return;
     m_pairingToken = token;
     Q_EMIT pairingTokenChanged();
+}
+
+void ServerManager::setLastPairedDevice(const QString &name)
+{
+    if (name == m_lastPairedDevice)
+        return;
+    m_lastPairedDevice = name;
+    Q_EMIT lastPairedDeviceChanged();
 }
 
 void ServerManager::setLocalIP(const QString &address)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pairing/pairinglistener.h"
 #include "server/serverenvironment.h"
 
 #include <QObject>
@@ -56,6 +57,13 @@ public:
 
     Q_INVOKABLE void togglePairingMode();
     static QString generatePairingToken();
+    void startPairingListener();
+    void stopPairingListener();
+    // Appends the phone's key to ~/.ssh/authorized_keys; false (and a logged reason) on failure.
+    bool installAuthorizedKey(const QString &publicKey);
+
+    // Present while the server runs, until a key has been installed.
+    PairingListener *pairingListener() const { return m_pairingListener.get(); }
 
     // The running child, or nullptr; after the child exits by itself it stays until a stop.
     QProcess *serverProcess() const { return m_serverProcess.get(); }
@@ -80,6 +88,7 @@ private:
     void setPairing(bool pairing);
     void setPairingToken(const QString &token);
     void setLocalIP(const QString &address);
+    void setLastPairedDevice(const QString &name);
 
     ServerEnvironment m_env;
 
@@ -93,11 +102,13 @@ private:
     QString m_lastPairedDevice;
 
     QTimer m_uptimeTimer;
+    // Both may be dropped from inside their own signal handlers.
     struct DeleteLater
     {
-        void operator()(QProcess *process) const { process->deleteLater(); }
+        void operator()(QObject *object) const { object->deleteLater(); }
     };
     std::unique_ptr<QProcess, DeleteLater> m_serverProcess;
+    std::unique_ptr<PairingListener, DeleteLater> m_pairingListener;
     qint64 m_serverPid = 0;
     // Tells a child's exit notice apart from its successor's after a restart.
     quint64 m_generation = 0;

@@ -31,18 +31,8 @@ class TestOrphanCleanup : public QObject
 
     qint64 startOrphan()
     {
-        const QStringList arguments { "--port",
-                                      "2022",
-                                      "--pidfile",
-                                      m_support + "/etserver.pid",
-                                      "--logdir",
-                                      m_support,
-                                      "--serverfifo",
-                                      "/tmp/et.fifo",
-                                      "--logtostdout",
-                                      "--verbose",
-                                      "1" };
-        const qint64 pid = startDetached(testsupport::fakeEtserverPath(), arguments);
+        const qint64 pid = startDetached(testsupport::fakeEtserverPath(),
+                                         testsupport::etserverArguments(m_support));
         // Construction must find it by its executable, so wait until it is exec'd.
         if (!QTest::qWaitFor([&] { return m_processes->isOwnServer(pid); }, 5000))
             return 0;

@@ -32,6 +32,21 @@ QString fakeEtserverPath()
     return QStringLiteral(QUIVRA_FAKE_ETSERVER);
 }
 
+QStringList etserverArguments(const QString &supportDirectory)
+{
+    return { "--port",
+             "2022",
+             "--pidfile",
+             supportDirectory + "/etserver.pid",
+             "--logdir",
+             supportDirectory,
+             "--serverfifo",
+             "/tmp/et.fifo",
+             "--logtostdout",
+             "--verbose",
+             "1" };
+}
+
 ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes)
 {
     ServerEnvironment env;
@@ -39,6 +54,7 @@ ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes)
     env.processes = std::move(processes);
     env.uptimeInterval = std::chrono::milliseconds(20);
     env.pairingPort = freeTcpPort();
+    env.advertise = false;
     return env;
 }
 

@@ -30,9 +30,11 @@ private:
 
 // The test build of etserver (see fake_etserver/).
 QString fakeEtserverPath();
+// The exact arguments the app gives etserver, for starting look-alike orphans.
+QStringList etserverArguments(const QString &supportDirectory);
 
-// The real machine, except: the fake etserver, the guarded process table, a 20 ms uptime tick and
-// a free pairing port.
+// The real machine, except: the fake etserver, the guarded process table, a 20 ms uptime tick, a
+// free pairing port and no DNS-SD advertisement.
 ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes);
 
 quint16 freeTcpPort();

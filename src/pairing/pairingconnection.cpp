@@ -1,0 +1,124 @@
+#include "pairing/pairingconnection.h"
+
+#include "platform/console.h"
+
+#include <QStringDecoder>
+#include <QTcpSocket>
+
+PairingConnection::PairingConnection(QTcpSocket *socket)
+    : m_socket(socket)
+{
+    m_socket->setParent(this);
+    connect(m_socket, &QTcpSocket::readyRead, this, &PairingConnection::onReadyRead);
+    connect(m_socket, &QTcpSocket::disconnected, this, [this] {
+        if (m_reading)
+            finishReading();
+        else
+            close();
+    });
+    m_deadline.setSingleShot(true);
+    connect(&m_deadline, &QTimer::timeout, this, &PairingConnection::finishReading);
+    m_deadline.start(readDeadlineMs);
+}
+
+QString PairingConnection::peerAddress() const
+{
+    QHostAddress address = m_socket->peerAddress();
+    bool mapped = false;
+    const quint32 ipv4 = address.toIPv4Address(&mapped);
+    return mapped ? QHostAddress(ipv4).toString() : address.toString();
+}
+
+QString PairingConnection::peer() const
+{
+    return peerAddress() + QLatin1Char(':') + QString::number(m_socket->peerPort());
+}
+
+void PairingConnection::onReadyRead()
+{
+    if (!m_reading) {
+        m_socket->readAll(); // one request per connection; the rest is not ours to read
+        return;
+    }
+    m_buffer += m_socket->read(maxRequestBytes - m_buffer.size());
+    if (requestComplete())
+        finishReading();
+}
+
+// Headers and any declared body are in, or the size limit is reached: a phone's networking
+// library may send headers and body in separate packets.
+bool PairingConnection::requestComplete() const
+{
+    if (m_buffer.size() >= maxRequestBytes)
+        return true;
+    const qsizetype headerEnd = m_buffer.indexOf("\r\n\r\n");
+    if (headerEnd < 0)
+        return false;
+    qsizetype bodyLength = 0;
+    const QList<QByteArray> lines = m_buffer.left(headerEnd).split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.trimmed().toLower().startsWith("content-length:"))
+            bodyLength = line.mid(line.indexOf(':') + 1).trimmed().toLongLong();
+    }
+    return m_buffer.size() >= headerEnd + 4 + bodyLength;
+}
+
+void PairingConnection::finishReading()
+{
+    if (!m_reading)
+        return;
+    m_reading = false;
+    m_deadline.stop();
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString request = decoder.decode(m_buffer);
+    if (m_buffer.isEmpty() || decoder.hasError()) {
+        console::line(QStringLiteral("[PairingListener] No data received, cancelling"));
+        close();
+        return;
+    }
+    console::line(QStringLiteral("[PairingListener] Received request: ") + request.left(100)
+                  + QStringLiteral("..."));
+    Q_EMIT requestReceived(request);
+}
+
+void PairingConnection::sendResponse(const QString &status, const QString &body)
+{
+    const QByteArray bytes = body.toUtf8();
+    send("HTTP/1.1 " + status.toUtf8() + "\r\nContent-Type: text/plain\r\nContent-Length: "
+         + QByteArray::number(bytes.size()) + "\r\nConnection: close\r\n\r\n" + bytes);
+}
+
+void PairingConnection::sendJSONResponse(const QByteArray &json)
+{
+    send("HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nContent-Length: "
+         + QByteArray::number(json.size())
+         + "\r\nAccess-Control-Allow-Origin: *\r\nConnection: close\r\n\r\n" + json);
+}
+
+void PairingConnection::send(const QByteArray &reply)
+{
+    if (m_closed)
+        return;
+    m_socket->write(reply);
+    close();
+}
+
+void PairingConnection::close()
+{
+    if (m_closed)
+        return;
+    m_closed = true;
+    m_reading = false;
+    m_deadline.stop();
+    console::line(QStringLiteral("[PairingListener] Connection state: cancelled"));
+    // disconnectFromHost() writes what is pending first.
+    connect(m_socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
+    m_socket->disconnectFromHost();
+    if (m_socket->state() == QAbstractSocket::UnconnectedState)
+        deleteLater();
+    else // a phone that stops reading must not hold the connection open
+        QTimer::singleShot(readDeadlineMs, this, [this] {
+            m_socket->abort();
+            deleteLater();
+        });
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QTimer>
+
+class QTcpSocket;
+
+// One accepted phone connection: reads one request, sends one reply, closes and deletes itself.
+class PairingConnection : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr qsizetype maxRequestBytes = 4096;
+    static constexpr int readDeadlineMs = 5000;
+
+    explicit PairingConnection(QTcpSocket *socket);
+
+    // "address:port" of the phone, for console lines.
+    QString peer() const;
+    QString peerAddress() const;
+
+    // Plain-text and JSON replies; each closes the connection once the bytes are sent.
+    void sendResponse(const QString &status, const QString &body);
+    void sendJSONResponse(const QByteArray &json);
+    void close();
+
+Q_SIGNALS:
+    // Once per connection: the request as UTF-8 text, cut at maxRequestBytes.
+    void requestReceived(const QString &request);
+
+private:
+    void onReadyRead();
+    bool requestComplete() const;
+    void finishReading();
+    void send(const QByteArray &reply);
+
+    QTcpSocket *m_socket;
+    QByteArray m_buffer;
+    QTimer m_deadline;
+    bool m_reading = true;
+    bool m_closed = false;
+};

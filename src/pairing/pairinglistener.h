@@ -1,0 +1,55 @@
+#pragma once
+
+#include "pairing/pairingresult.h"
+#include "platform/dnssdadvertiser.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QTcpServer>
+
+#include <functional>
+
+class PairingConnection;
+class ServerManager;
+
+// The phone-facing TCP service on the pairing port, advertised by DNS-SD as
+// "QuivraMac-{hostLabel}" of type _quivra-terminal._tcp. Each connection carries one request.
+class PairingListener : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int maxConnections = 32;
+    static constexpr int maxConnectionsPerAddress = 4;
+
+    explicit PairingListener(ServerManager *owner);
+    ~PairingListener() override;
+
+    // Listens on all interfaces and, unless told otherwise, registers with the DNS-SD daemon.
+    void start(quint16 port, bool advertise = true);
+    void stop();
+    bool isListening() const { return m_server.isListening(); }
+    quint16 port() const { return m_port; }
+    // The owner, or nullptr once it is gone.
+    ServerManager *serverManager() const;
+
+    // Set by the owner before start(). The key callback answers whether the key is stored.
+    std::function<bool(const QString &publicKey)> onKeyReceived;
+    std::function<void(const PairingResult &result)> onPairingSuccess;
+
+Q_SIGNALS:
+    // The name the DNS-SD daemon registered (tests and the log wait for it).
+    void advertised(const QString &name);
+
+private:
+    void acceptConnections();
+    void handleRequest(const QString &request, PairingConnection *connection);
+
+    QTcpServer m_server;
+    platform::DnsSdAdvertiser m_advertiser;
+    quint16 m_port = 8080;
+    QPointer<ServerManager> m_serverManager;
+    QHash<QString, int> m_connectionsPerAddress;
+    int m_connections = 0;
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+// What an accepted pairing request hands to the owner.
+struct PairingResult
+{
+    QString publicKey;
+    QString deviceName;
+};

@@ -1,0 +1,143 @@
+#include "dnssddaemon.h"
+#include "net/hostlabel.h"
+#include "pairing/pairinglistener.h"
+#include "testsupport.h"
+
+#include <QNetworkProxy>
+#include <QTcpSocket>
+
+namespace {
+
+// Sends one request from `from` and returns everything the listener answered before closing. The
+// listener shares this thread's event loop, so the client waits without blocking it.
+QByteArray exchange(quint16 port, const QByteArray &request,
+                    const QHostAddress &from = QHostAddress::LocalHost)
+{
+    QTcpSocket socket;
+    socket.setProxy(QNetworkProxy::NoProxy);
+    QByteArray reply;
+    QObject::connect(&socket, &QTcpSocket::readyRead, [&] { reply += socket.readAll(); });
+    socket.bind(from);
+    socket.connectToHost(QHostAddress::LocalHost, port);
+    if (!QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; }, 5000))
+        return "<no connection>";
+    socket.write(request);
+    if (!QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::UnconnectedState; }, 8000))
+        return "<still open>";
+    return reply;
+}
+
+} // namespace
+
+class TestPairingListener : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<PairingListener> m_listener;
+    quint16 m_port = 0;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_port = testsupport::freeTcpPort();
+        m_listener = std::make_unique<PairingListener>(nullptr);
+        m_listener->start(m_port, false);
+        QVERIFY(m_listener->isListening());
+    }
+
+    void cleanup() { m_listener.reset(); }
+
+    void printsConnectionLifeAndKeepsServingAfterBadBytes()
+    {
+        testsupport::ConsoleCapture console;
+        QCOMPARE(exchange(m_port, "\xff\xfe not text\r\n\r\n"), QByteArray());
+        const QStringList lines =
+            console.lines().filter(QRegularExpression("^\\[PairingListener\\]"));
+        const QString prefix = "[PairingListener] New connection from 127.0.0.1:";
+        QVERIFY(lines.value(0).startsWith(prefix));
+        QCOMPARE(lines.mid(1),
+                 (QStringList { "[PairingListener] Connection state: ready",
+                                "[PairingListener] No data received, cancelling",
+                                "[PairingListener] Connection state: cancelled" }));
+        QVERIFY(exchange(m_port, "GET /elsewhere HTTP/1.1\r\n\r\n")
+                    .startsWith("HTTP/1.1 404 Not Found"));
+    }
+
+    void printsStartOfEveryRequest()
+    {
+        testsupport::ConsoleCapture console;
+        const QByteArray shortRequest = "GET /x HTTP/1.1\r\nHost: a\r\n\r\n";
+        exchange(m_port, shortRequest);
+        QVERIFY(console.lines().contains("[PairingListener] Received request: " + shortRequest
+                                         + "..."));
+        const QByteArray longRequest = "GET /" + QByteArray(300, 'a') + " HTTP/1.1\r\n\r\n";
+        exchange(m_port, longRequest);
+        QVERIFY(console.lines().contains(
+            "[PairingListener] Received request: " + longRequest.left(100) + "..."));
+    }
+
+    void startFailsOnTakenPort()
+    {
+        testsupport::ConsoleCapture console;
+        PairingListener second(nullptr);
+        second.start(m_port, false);
+        QVERIFY(!second.isListening());
+        QCOMPARE(second.port(), m_port);
+        QVERIFY(console.lines().value(0).startsWith("Failed to start PairingListener: "));
+    }
+
+    void servesManyConnectionsAndBoundsEachAddress()
+    {
+        // Eight source addresses with four connections each: the listener's whole capacity.
+        std::vector<std::unique_ptr<QTcpSocket>> sockets;
+        for (int i = 0; i < PairingListener::maxConnections; ++i) {
+            auto socket = std::make_unique<QTcpSocket>();
+            socket->setProxy(QNetworkProxy::NoProxy);
+            socket->bind(QHostAddress(QStringLiteral("127.0.0.%1").arg(2 + i / 4)));
+            socket->connectToHost(QHostAddress::LocalHost, m_port);
+            sockets.push_back(std::move(socket));
+        }
+        for (auto &socket : sockets)
+            QTRY_COMPARE(socket->state(), QAbstractSocket::ConnectedState);
+        // A fifth connection from a busy address is closed without a reply.
+        QCOMPARE(exchange(m_port, "GET /x HTTP/1.1\r\n\r\n", QHostAddress("127.0.0.2")),
+                 QByteArray());
+        for (auto &socket : sockets)
+            socket->write("GET /x HTTP/1.1\r\n\r\n");
+        for (auto &socket : sockets) {
+            QTRY_VERIFY(socket->bytesAvailable() > 0
+                        || socket->state() != QAbstractSocket::ConnectedState);
+            QVERIFY(socket->readAll().startsWith("HTTP/1.1 404"));
+        }
+        // Closed connections free their places.
+        QTRY_VERIFY(exchange(m_port, "GET /x HTTP/1.1\r\n\r\n", QHostAddress("127.0.0.2"))
+                        .startsWith("HTTP/1.1"));
+    }
+
+    void advertisesThroughTheSystemDaemonUntilStopped()
+    {
+        testsupport::DnsSdDaemon daemon;
+        if (const QString reason = daemon.ensureRunning(); !reason.isEmpty())
+            QSKIP(qPrintable("DNS-SD not testable here: " + reason));
+        PairingListener listener(nullptr);
+        QSignalSpy advertised(&listener, &PairingListener::advertised);
+        const quint16 port = testsupport::freeTcpPort();
+        listener.start(port);
+        QVERIFY(advertised.wait(10000));
+        const QString name = advertised.at(0).at(0).toString();
+        QVERIFY(name.startsWith("QuivraMac-" + net::hostLabel()));
+        const QString expected = ";" + name + ";_quivra-terminal._tcp;local;";
+        const auto listed = [&] {
+            const QStringList lines = testsupport::DnsSdDaemon::browse("_quivra-terminal._tcp");
+            return std::any_of(lines.begin(), lines.end(), [&](const QString &line) {
+                return line.contains(expected) && line.endsWith(QStringLiteral(";%1;").arg(port));
+            });
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(listed(), 15000);
+        listener.stop();
+        QTRY_VERIFY_WITH_TIMEOUT(!listed(), 15000);
+    }
+};
+
+QUIVRA_TEST_MAIN(TestPairingListener)
+#include "tst_pairinglistener.moc"
