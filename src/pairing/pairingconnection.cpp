@@ -1,5 +1,6 @@
 #include "pairing/pairingconnection.h"
 
+#include "pairing/requestparsing.h"
 #include "platform/console.h"
 
 #include <QStringDecoder>
@@ -76,8 +77,8 @@ void PairingConnection::finishReading()
         close();
         return;
     }
-    console::line(QStringLiteral("[PairingListener] Received request: ") + request.left(100)
-                  + QStringLiteral("..."));
+    console::line(QStringLiteral("[PairingListener] Received request: ")
+                  + requestparsing::printable(request.left(100)) + QStringLiteral("..."));
     Q_EMIT requestReceived(request);
 }
 
@@ -111,6 +112,7 @@ void PairingConnection::close()
     m_reading = false;
     m_deadline.stop();
     console::line(QStringLiteral("[PairingListener] Connection state: cancelled"));
+    Q_EMIT closed();
     // disconnectFromHost() writes what is pending first.
     connect(m_socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
     m_socket->disconnectFromHost();

@@ -25,8 +25,12 @@ public:
     void sendResponse(const QString &status, const QString &body);
     void sendJSONResponse(const QByteArray &json);
     void close();
+    // Still waiting for its request: the first to go when the listener is full.
+    bool isReading() const { return m_reading; }
 
 Q_SIGNALS:
+    // Once, when the connection is closed (its reply, if any, still being sent).
+    void closed();
     // Once per connection: the request as UTF-8 text, cut at maxRequestBytes.
     void requestReceived(const QString &request);
 

@@ -1,5 +1,6 @@
 #include "pairing/pairinglistener.h"
 
+#include "diagnostics/sshprobe.h"
 #include "net/hostlabel.h"
 #include "pairing/pairingconnection.h"
 #include "platform/console.h"
@@ -9,6 +10,9 @@
 
 PairingListener::PairingListener(ServerManager *owner)
     : m_serverManager(owner)
+    , m_sshProbe(owner ? std::make_shared<SshProbe>(owner->environment().sshHost,
+                                                    owner->environment().sshPort)
+                       : std::make_shared<SshProbe>())
 {
     connect(&m_server, &QTcpServer::newConnection, this, &PairingListener::acceptConnections);
     connect(&m_advertiser, &platform::DnsSdAdvertiser::registered, this,
@@ -76,20 +80,35 @@ void PairingListener::acceptConnections()
         console::line(QStringLiteral("[PairingListener] New connection from ")
                       + connection->peer());
         console::line(QStringLiteral("[PairingListener] Connection state: ready"));
-        // Bounded so that a flood of idle sockets from one machine cannot starve the others.
-        if (m_connections >= maxConnections
-            || m_connectionsPerAddress.value(address) >= maxConnectionsPerAddress) {
+        if (!makeRoomFor(address)) {
             connection->close();
             continue;
         }
-        ++m_connections;
+        m_connections.append(connection);
         ++m_connectionsPerAddress[address];
-        connect(connection, &QObject::destroyed, this, [this, address] {
-            --m_connections;
+        connect(connection, &PairingConnection::closed, this, [this, connection, address] {
+            m_connections.removeOne(connection);
             if (--m_connectionsPerAddress[address] == 0)
                 m_connectionsPerAddress.remove(address);
         });
         connect(connection, &PairingConnection::requestReceived, this,
                 [this, connection](const QString &request) { handleRequest(request, connection); });
     }
+}
+
+// Bounded, so that a flood of idle sockets cannot exhaust the process: one machine gets a few
+// connections, and when all are taken the oldest one still silent makes way. A phone sends its
+// request at once, so idle sockets from elsewhere cannot keep it out.
+bool PairingListener::makeRoomFor(const QString &address)
+{
+    if (m_connectionsPerAddress.value(address) >= maxConnectionsPerAddress)
+        return false;
+    if (m_connections.size() < maxConnections)
+        return true;
+    const auto idle = std::find_if(m_connections.cbegin(), m_connections.cend(),
+                                   [](const PairingConnection *c) { return c->isReading(); });
+    if (idle == m_connections.cend())
+        return false;
+    (*idle)->close();
+    return true;
 }

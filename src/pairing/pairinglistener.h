@@ -9,9 +9,11 @@
 #include <QTcpServer>
 
 #include <functional>
+#include <memory>
 
 class PairingConnection;
 class ServerManager;
+class SshProbe;
 
 // The phone-facing TCP service on the pairing port, advertised by DNS-SD as
 // "QuivraMac-{hostLabel}" of type _quivra-terminal._tcp. Each connection carries one request.
@@ -22,6 +24,7 @@ class PairingListener : public QObject
 public:
     static constexpr int maxConnections = 32;
     static constexpr int maxConnectionsPerAddress = 4;
+    static constexpr int maxStatusRequestsInProgress = 4;
 
     explicit PairingListener(ServerManager *owner);
     ~PairingListener() override;
@@ -44,12 +47,20 @@ Q_SIGNALS:
 
 private:
     void acceptConnections();
+    bool makeRoomFor(const QString &address);
     void handleRequest(const QString &request, PairingConnection *connection);
+    void handleStatusRequest(PairingConnection *connection);
+    void handlePairRequest(const QString &requestLine, const QString &request,
+                           PairingConnection *connection);
 
     QTcpServer m_server;
     platform::DnsSdAdvertiser m_advertiser;
     quint16 m_port = 8080;
     QPointer<ServerManager> m_serverManager;
     QHash<QString, int> m_connectionsPerAddress;
-    int m_connections = 0;
+    // Open connections, oldest first.
+    QList<PairingConnection *> m_connections;
+    // Shared by all status requests, so that they share its verdict.
+    std::shared_ptr<SshProbe> m_sshProbe;
+    int m_statusRequestsInProgress = 0;
 };

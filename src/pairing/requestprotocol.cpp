@@ -1,8 +1,103 @@
+#include "diagnostics/diagnosticengine.h"
+#include "diagnostics/sshprobe.h"
 #include "pairing/pairingconnection.h"
 #include "pairing/pairinglistener.h"
+#include "pairing/publickey.h"
+#include "pairing/requestparsing.h"
+#include "platform/console.h"
+#include "server/servermanager.h"
+
+namespace {
+const QString badRequest = QStringLiteral("400 Bad Request");
+const QString forbidden = QStringLiteral("403 Forbidden");
+const QString unavailable = QStringLiteral("503 Service Unavailable");
+const QString serverNotReady = QStringLiteral("Server not ready");
+} // namespace
 
 void PairingListener::handleRequest(const QString &request, PairingConnection *connection)
 {
-    Q_UNUSED(request);
-    connection->sendResponse(QStringLiteral("404 Not Found"), QStringLiteral("Not Found"));
+    const QString requestLine = requestparsing::lines(request).constFirst();
+    if (request.isEmpty())
+        connection->sendResponse(badRequest, QStringLiteral("Invalid Request"));
+    else if (requestLine.contains(QLatin1String("GET /status")))
+        handleStatusRequest(connection);
+    else if (requestLine.contains(QLatin1String("/pair")))
+        handlePairRequest(requestLine, request, connection);
+    else
+        connection->sendResponse(QStringLiteral("404 Not Found"), QStringLiteral("Not Found"));
+}
+
+void PairingListener::handleStatusRequest(PairingConnection *connection)
+{
+    // Each report waits for the SSH probe; a bounded number keeps a flood from piling up.
+    if (m_statusRequestsInProgress >= maxStatusRequestsInProgress) {
+        connection->sendResponse(unavailable, serverNotReady);
+        return;
+    }
+    ++m_statusRequestsInProgress;
+    ServerManager *manager = serverManager();
+    auto *engine = new DiagnosticEngine(
+        manager, m_sshProbe,
+        manager ? manager->environment().diagnostics : DiagnosticSystem::real(), this);
+    connect(engine, &DiagnosticEngine::finished, this,
+            [this, engine, connection = QPointer(connection)] {
+                --m_statusRequestsInProgress;
+                engine->deleteLater();
+                if (connection)
+                    connection->sendJSONResponse(
+                        statusjson::encode(engine->makeStatusResponse(m_port)));
+            });
+    engine->runAllChecks();
+}
+
+void PairingListener::handlePairRequest(const QString &requestLine, const QString &request,
+                                        PairingConnection *connection)
+{
+    ServerManager *manager = serverManager();
+    if (!manager) {
+        connection->sendResponse(unavailable, serverNotReady);
+        return;
+    }
+    if (!manager->acceptsPairing()) {
+        console::line(QStringLiteral("Pairing Denied: Pairing mode not active"));
+        connection->sendResponse(forbidden, QStringLiteral("Pairing mode not active"));
+        return;
+    }
+    if (requestparsing::comesFromWebPage(request, manager->environment().diagnostics.hostLabel())) {
+        console::line(QStringLiteral("Pairing Denied: request from a web page"));
+        manager->recordFailedPairingAttempt(connection->peerAddress());
+        connection->sendResponse(forbidden, QStringLiteral("Forbidden"));
+        return;
+    }
+    if (!requestparsing::tokenMatches(requestLine, manager->pairingToken())) {
+        console::line(QStringLiteral("Pairing Denied: Invalid Token"));
+        manager->recordFailedPairingAttempt(connection->peerAddress());
+        connection->sendResponse(QStringLiteral("401 Unauthorized"),
+                                 QStringLiteral("Invalid Token"));
+        return;
+    }
+    QString deviceName = requestparsing::sanitizeDeviceName(
+        requestparsing::headerValue(QStringLiteral("X-Device-Name"), request).value_or(QString()));
+    if (deviceName.isEmpty())
+        deviceName = QStringLiteral("iPhone");
+    const QString body = requestparsing::body(request);
+    if (body.isEmpty()) {
+        connection->sendResponse(badRequest, QStringLiteral("Missing Key Body"));
+        return;
+    }
+    const QString key = body.trimmed();
+    if (!publickey::isAcceptable(key)) {
+        connection->sendResponse(badRequest, QStringLiteral("Invalid Key Format"));
+        return;
+    }
+    // The key is on disk before the phone hears of success; the callback also ends pairing
+    // mode in this same step, so requests queued behind this one find it off.
+    if (onKeyReceived && !onKeyReceived(key)) {
+        connection->sendResponse(unavailable, serverNotReady);
+        return;
+    }
+    console::line(QStringLiteral("Pairing Success! Device: ") + deviceName);
+    if (onPairingSuccess)
+        onPairingSuccess({ key, deviceName });
+    connection->sendResponse(QStringLiteral("200 OK"), QStringLiteral("Paired Successfully"));
 }

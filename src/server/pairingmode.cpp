@@ -20,16 +20,58 @@ QString ServerManager::generatePairingToken()
 
 void ServerManager::togglePairingMode()
 {
+    if (!m_isPairing) {
+        setLocalIP(m_env.localIP());
+        issuePairingToken();
+    }
     setPairing(!m_isPairing);
     if (m_isPairing) {
-        setLocalIP(m_env.localIP());
-        setPairingToken(generatePairingToken());
         console::line(QStringLiteral("Pairing Mode Active. IP: %1, Token: %2")
                           .arg(m_localIP, m_pairingToken));
         log(QStringLiteral("[QuivraMac] Pairing mode enabled. Token: ") + m_pairingToken);
     } else {
         log(QStringLiteral("[QuivraMac] Pairing mode disabled"));
     }
+}
+
+void ServerManager::renewPairingToken()
+{
+    issuePairingToken();
+}
+
+// A code is good for one pairing, a few wrong guesses and a limited time.
+void ServerManager::issuePairingToken()
+{
+    setPairingToken(generatePairingToken());
+    m_pairingIssuedAt = m_env.now();
+    m_failedPairingAttempts = 0;
+    m_failedPairingAddresses.clear();
+    m_pairingExpiry.start(pairingCodeLifetime);
+}
+
+bool ServerManager::acceptsPairing()
+{
+    if (m_isPairing && m_env.now() - m_pairingIssuedAt >= pairingCodeLifetime) {
+        setPairing(false);
+        log(QStringLiteral("[QuivraMac] Pairing mode disabled: the code expired"));
+    }
+    return m_isPairing;
+}
+
+void ServerManager::recordFailedPairingAttempt(const QString &address)
+{
+    if (!m_isPairing)
+        return;
+    if (!m_failedPairingAddresses.contains(address))
+        m_failedPairingAddresses.append(address);
+    if (++m_failedPairingAttempts < maxFailedPairingAttempts)
+        return;
+    setPairing(false);
+    log(QStringLiteral("[QuivraMac] Pairing mode disabled after %1 failed attempts")
+            .arg(maxFailedPairingAttempts));
+    console::line(QStringLiteral("Pairing mode disabled after %1 failed attempts from: %2")
+                      .arg(maxFailedPairingAttempts)
+                      .arg(m_failedPairingAddresses.join(QStringLiteral(", "))));
 }
 
 void ServerManager::startPairingListener()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "diagnostics/checks.h"
 #include "net/localaddress.h"
 #include "platform/bundlepaths.h"
 #include "platform/processtable.h"
@@ -23,4 +24,10 @@ struct ServerEnvironment
     quint16 pairingPort = 8080;
     // Whether the pairing listener registers itself with the DNS-SD daemon.
     bool advertise = true;
+    // Measures the pairing code's lifetime; tests move it forward.
+    std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
+    // What the status report's checks read, and where the SSH daemon is probed.
+    DiagnosticSystem diagnostics = DiagnosticSystem::real();
+    QString sshHost = QStringLiteral("127.0.0.1");
+    quint16 sshPort = 22;
 };

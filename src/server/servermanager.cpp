@@ -23,6 +23,8 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
 {
     m_uptimeTimer.setInterval(m_env.uptimeInterval);
     connect(&m_uptimeTimer, &QTimer::timeout, this, [this] { setUptime(m_uptime + 1.0); });
+    m_pairingExpiry.setSingleShot(true);
+    connect(&m_pairingExpiry, &QTimer::timeout, this, &ServerManager::acceptsPairing);
 
     setLocalIP(m_env.localIP());
     setPairingToken(generatePairingToken());
@@ -233,6 +235,8 @@ void ServerManager::setPairing(bool pairing)
     if (pairing == m_isPairing)
         return;
     m_isPairing = pairing;
+    if (!pairing)
+        m_pairingExpiry.stop();
     Q_EMIT isPairingChanged();
 }
 

@@ -50,13 +50,24 @@ public:
     void killOrphanedServer(qint32 pid);
     QList<qint32> findServerProcesses() const;
 
+    const ServerEnvironment &environment() const { return m_env; }
     QString etserverURL() const;
     QString supportDirectory() const;
     QString pidFilePath() const;
     QStringList serverArguments() const;
 
+    static constexpr int maxFailedPairingAttempts = 5;
+    static constexpr std::chrono::seconds pairingCodeLifetime { 300 };
+
+    // Every switch to on issues a fresh code that expires after pairingCodeLifetime.
     Q_INVOKABLE void togglePairingMode();
+    // A fresh code and a fresh lifetime, pairing mode left as it is.
+    Q_INVOKABLE void renewPairingToken();
     static QString generatePairingToken();
+    // Pairing mode is on and its code has not expired; an expired code switches it off.
+    bool acceptsPairing();
+    // A wrong code or a request from a web page; the last allowed one switches pairing off.
+    void recordFailedPairingAttempt(const QString &address);
     void startPairingListener();
     void stopPairingListener();
     // Appends the phone's key to ~/.ssh/authorized_keys; false (and a logged reason) on failure.
@@ -89,6 +100,7 @@ private:
     void setPairingToken(const QString &token);
     void setLocalIP(const QString &address);
     void setLastPairedDevice(const QString &name);
+    void issuePairingToken();
 
     ServerEnvironment m_env;
 
@@ -102,6 +114,10 @@ private:
     QString m_lastPairedDevice;
 
     QTimer m_uptimeTimer;
+    QTimer m_pairingExpiry;
+    std::chrono::steady_clock::time_point m_pairingIssuedAt;
+    int m_failedPairingAttempts = 0;
+    QStringList m_failedPairingAddresses;
     // Both may be dropped from inside their own signal handlers.
     struct DeleteLater
     {

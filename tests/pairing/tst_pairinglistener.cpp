@@ -1,33 +1,13 @@
 #include "dnssddaemon.h"
 #include "net/hostlabel.h"
 #include "pairing/pairinglistener.h"
+#include "phoneclient.h"
 #include "testsupport.h"
 
 #include <QNetworkProxy>
 #include <QTcpSocket>
 
-namespace {
-
-// Sends one request from `from` and returns everything the listener answered before closing. The
-// listener shares this thread's event loop, so the client waits without blocking it.
-QByteArray exchange(quint16 port, const QByteArray &request,
-                    const QHostAddress &from = QHostAddress::LocalHost)
-{
-    QTcpSocket socket;
-    socket.setProxy(QNetworkProxy::NoProxy);
-    QByteArray reply;
-    QObject::connect(&socket, &QTcpSocket::readyRead, [&] { reply += socket.readAll(); });
-    socket.bind(from);
-    socket.connectToHost(QHostAddress::LocalHost, port);
-    if (!QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; }, 5000))
-        return "<no connection>";
-    socket.write(request);
-    if (!QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::UnconnectedState; }, 8000))
-        return "<still open>";
-    return reply;
-}
-
-} // namespace
+using testsupport::exchange;
 
 class TestPairingListener : public QObject
 {

@@ -1,0 +1,125 @@
+#include "diagnostics/checks.h"
+
+#include "net/hostlabel.h"
+#include "platform/systeminfo.h"
+#include "server/servermanager.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+DiagnosticSystem DiagnosticSystem::real()
+{
+    return { QDir::homePath, net::systemInterfaceAddresses, platform::tailscaleInstalled,
+             platform::userName, [] { return net::hostLabel(); } };
+}
+
+namespace checks {
+
+const QString remoteLoginDisabled = QStringLiteral(
+    "Remote Login is disabled. Enable it in System Settings \u2192 General \u2192 Sharing "
+    "\u2192 Remote Login");
+
+QList<DiagnosticCheck> fixedList()
+{
+    auto check = [](const char *id, const char *name, const char *description, bool canAutoFix,
+                    bool isCritical) {
+        return DiagnosticCheck { QString::fromUtf8(id),
+                                 QString::fromUtf8(name),
+                                 QString::fromUtf8(description),
+                                 {},
+                                 canAutoFix,
+                                 isCritical };
+    };
+    return {
+        check("ssh_daemon", "Remote Login", "SSH daemon is running and accepting connections",
+              false, true),
+        check("ssh_dir", "SSH Directory", "~/.ssh directory exists with correct permissions", true,
+              true),
+        check("auth_keys", "Authorized Keys", "SSH authorized_keys file is configured", true, true),
+        check("etserver", "Quivra Server", "Eternal Terminal server is running", true, true),
+        check("network", "Network", "Your Mac is accessible on the network", false, true),
+        check("tailscale", "Tailscale", "Connect from anywhere with Tailscale", false, false),
+    };
+}
+
+namespace {
+
+// The permission bits as compared: the mode without the file type, set-id and sticky kept.
+std::optional<mode_t> permissions(const QString &path)
+{
+    struct stat info
+    {
+    };
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return std::nullopt;
+    return info.st_mode & 07777;
+}
+
+QString octal(mode_t mode)
+{
+    return QString::number(uint(mode), 8);
+}
+
+} // namespace
+
+DiagnosticStatus sshDirectory(const QString &home)
+{
+    const QString path = home + QStringLiteral("/.ssh");
+    if (!QFileInfo(path).isDir()) // follows a symbolic link
+        return DiagnosticStatus::fixable(QStringLiteral("~/.ssh directory doesn't exist"));
+    const auto mode = permissions(path);
+    if (!mode)
+        return DiagnosticStatus::fixable(QStringLiteral("Cannot read ~/.ssh permissions"));
+    if (*mode != 0700)
+        return DiagnosticStatus::fixable(
+            QStringLiteral("~/.ssh has incorrect permissions (%1 instead of 700)")
+                .arg(octal(*mode)));
+    return DiagnosticStatus::passed();
+}
+
+DiagnosticStatus authorizedKeys(const QString &home)
+{
+    const QString directory = home + QStringLiteral("/.ssh");
+    const QString path = directory + QStringLiteral("/authorized_keys");
+    if (!QFileInfo::exists(directory))
+        return DiagnosticStatus::fixable(QStringLiteral("~/.ssh directory doesn't exist"));
+    if (!QFileInfo::exists(path))
+        return DiagnosticStatus::fixable(QStringLiteral("authorized_keys file doesn't exist"));
+    const auto mode = permissions(path);
+    if (!mode)
+        return DiagnosticStatus::fixable(QStringLiteral("Cannot read authorized_keys permissions"));
+    if (*mode != 0600)
+        return DiagnosticStatus::fixable(
+            QStringLiteral("authorized_keys has incorrect permissions (%1 instead of 600)")
+                .arg(octal(*mode)));
+    return DiagnosticStatus::passed();
+}
+
+DiagnosticStatus server(const ServerManager *manager)
+{
+    if (!manager)
+        return DiagnosticStatus::fixable(QStringLiteral("Server manager not available"));
+    if (manager->isRunning())
+        return DiagnosticStatus::passed();
+    return DiagnosticStatus::fixable(QStringLiteral("Quivra server is not running"));
+}
+
+DiagnosticStatus network(const QList<net::InterfaceAddress> &addresses)
+{
+    if (net::chooseLocalIP(addresses) == QLatin1String("127.0.0.1"))
+        return DiagnosticStatus::failed(QStringLiteral("No network connection detected"));
+    return DiagnosticStatus::passed();
+}
+
+DiagnosticStatus tailscale(const QList<net::InterfaceAddress> &addresses, bool installed)
+{
+    if (net::tailscaleAddress(addresses))
+        return DiagnosticStatus::passed();
+    if (installed)
+        return DiagnosticStatus::failed(QStringLiteral("Tailscale is installed but not connected"));
+    return DiagnosticStatus::failed(QStringLiteral("Install Tailscale to connect from anywhere"));
+}
+
+} // namespace checks

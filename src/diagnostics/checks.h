@@ -1,0 +1,37 @@
+#pragma once
+
+#include "diagnostics/diagnosticcheck.h"
+#include "net/localaddress.h"
+
+#include <QList>
+
+#include <functional>
+
+class ServerManager;
+
+// What the checks read from the machine; tests replace pieces.
+struct DiagnosticSystem
+{
+    std::function<QString()> homeDirectory;
+    std::function<QList<net::InterfaceAddress>()> interfaces;
+    std::function<bool()> tailscaleInstalled;
+    std::function<QString()> userName;
+    std::function<QString()> hostLabel;
+
+    static DiagnosticSystem real();
+};
+
+namespace checks {
+
+// The six checks in their fixed order, all pending.
+QList<DiagnosticCheck> fixedList();
+
+DiagnosticStatus sshDirectory(const QString &home);
+DiagnosticStatus authorizedKeys(const QString &home);
+DiagnosticStatus server(const ServerManager *manager);
+DiagnosticStatus network(const QList<net::InterfaceAddress> &addresses);
+DiagnosticStatus tailscale(const QList<net::InterfaceAddress> &addresses, bool installed);
+
+extern const QString remoteLoginDisabled;
+
+} // namespace checks

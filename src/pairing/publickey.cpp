@@ -1,0 +1,98 @@
+#include "pairing/publickey.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace publickey {
+namespace {
+
+// Reads the SSH wire format's length-prefixed strings.
+class BlobReader
+{
+public:
+    explicit BlobReader(QByteArrayView blob)
+        : m_rest(blob)
+    { }
+
+    std::optional<QByteArrayView> string()
+    {
+        if (m_rest.size() < 4)
+            return std::nullopt;
+        const auto *bytes = reinterpret_cast<const uchar *>(m_rest.data());
+        const quint32 length = quint32(bytes[0]) << 24 | quint32(bytes[1]) << 16
+            | quint32(bytes[2]) << 8 | quint32(bytes[3]);
+        if (length > quint32(m_rest.size() - 4))
+            return std::nullopt;
+        const QByteArrayView value = m_rest.sliced(4, length);
+        m_rest = m_rest.sliced(4 + length);
+        return value;
+    }
+    bool atEnd() const { return m_rest.isEmpty(); }
+
+private:
+    QByteArrayView m_rest;
+};
+
+qsizetype bitLength(QByteArrayView mpint)
+{
+    qsizetype i = 0;
+    while (i < mpint.size() && mpint[i] == 0)
+        ++i;
+    if (i == mpint.size())
+        return 0;
+    int top = 8;
+    while (top > 0 && !(uchar(mpint[i]) & (1u << (top - 1))))
+        --top;
+    return (mpint.size() - i - 1) * 8 + top;
+}
+
+bool isValidBlob(const QByteArray &type, const QByteArray &blob)
+{
+    BlobReader reader(blob);
+    const auto blobType = reader.string();
+    if (!blobType || *blobType != type)
+        return false;
+    if (type == "ssh-ed25519") {
+        const auto point = reader.string();
+        return blob.size() == 51 && point && point->size() == 32 && reader.atEnd();
+    }
+    const auto exponent = reader.string();
+    const auto modulus = reader.string();
+    return exponent && !exponent->isEmpty() && modulus && bitLength(*modulus) >= 2048
+        && reader.atEnd();
+}
+
+bool isAcceptableComment(const QString &comment)
+{
+    if (comment.toUtf8().size() > 256)
+        return false;
+    const QList<uint> codePoints = comment.toUcs4();
+    return std::all_of(codePoints.cbegin(), codePoints.cend(),
+                       [](uint c) { return QChar::isPrint(char32_t(c)); });
+}
+
+} // namespace
+
+bool isAcceptable(const QString &key)
+{
+    const qsizetype typeEnd = key.indexOf(u' ');
+    if (typeEnd < 0)
+        return false;
+    const QString type = key.left(typeEnd);
+    if (type != QLatin1String("ssh-ed25519") && type != QLatin1String("ssh-rsa"))
+        return false;
+    const qsizetype dataEnd = key.indexOf(u' ', typeEnd + 1);
+    const QString data = key.mid(typeEnd + 1, dataEnd < 0 ? -1 : dataEnd - typeEnd - 1);
+    if (dataEnd >= 0 && !isAcceptableComment(key.mid(dataEnd + 1)))
+        return false;
+    const auto decoded =
+        QByteArray::fromBase64Encoding(data.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    // toLatin1 would turn a non-Latin-1 character into "?", which base64 rejects anyway.
+    return decoded && !decoded.decoded.isEmpty() && isValidBlob(type.toLatin1(), decoded.decoded);
+}
+
+} // namespace publickey

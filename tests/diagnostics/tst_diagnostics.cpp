@@ -1,0 +1,168 @@
+#include "diagnostics/diagnosticengine.h"
+#include "diagnostics/sshprobe.h"
+#include "testsupport.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTcpServer>
+
+namespace {
+
+QString home()
+{
+    return QDir::homePath();
+}
+
+void makeSsh(QFile::Permissions directory, std::optional<QFile::Permissions> keys)
+{
+    QDir(home() + "/.ssh").removeRecursively();
+    QFile::remove(home() + "/.ssh");
+    QDir().mkpath(home() + "/.ssh");
+    if (keys) {
+        QFile file(home() + "/.ssh/authorized_keys");
+        file.open(QIODevice::WriteOnly);
+        file.setPermissions(*keys);
+    }
+    QFile::setPermissions(home() + "/.ssh", directory);
+}
+
+constexpr auto rwx = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+constexpr auto rw = QFile::ReadOwner | QFile::WriteOwner;
+
+DiagnosticSystem machine(QList<net::InterfaceAddress> interfaces, bool tailscaleInstalled = false)
+{
+    return { home, [interfaces] { return interfaces; },
+             [tailscaleInstalled] { return tailscaleInstalled; },
+             [] { return QStringLiteral("tester"); }, [] { return QStringLiteral("studio"); } };
+}
+
+} // namespace
+
+class TestDiagnostics : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fileChecksReportExactMessages()
+    {
+        using checks::authorizedKeys;
+        using checks::sshDirectory;
+        QDir(home() + "/.ssh").removeRecursively();
+        QCOMPARE(sshDirectory(home()).message, "~/.ssh directory doesn't exist");
+        QCOMPARE(authorizedKeys(home()).message, "~/.ssh directory doesn't exist");
+
+        makeSsh(rwx | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther,
+                rw | QFile::ReadGroup | QFile::ReadOther);
+        QCOMPARE(
+            sshDirectory(home()),
+            DiagnosticStatus::fixable("~/.ssh has incorrect permissions (755 instead of 700)"));
+        QCOMPARE(authorizedKeys(home()),
+                 DiagnosticStatus::fixable(
+                     "authorized_keys has incorrect permissions (644 instead of 600)"));
+        makeSsh(QFile::ReadOwner | QFile::ExeOwner, QFile::ReadOwner);
+        QCOMPARE(sshDirectory(home()).message,
+                 "~/.ssh has incorrect permissions (500 instead of 700)");
+        QCOMPARE(authorizedKeys(home()).message,
+                 "authorized_keys has incorrect permissions (400 instead of 600)");
+
+        makeSsh(rwx, std::nullopt);
+        QCOMPARE(sshDirectory(home()), DiagnosticStatus::passed());
+        QCOMPARE(authorizedKeys(home()).message, "authorized_keys file doesn't exist");
+        makeSsh(rwx, rw);
+        QCOMPARE(authorizedKeys(home()), DiagnosticStatus::passed());
+
+        // A regular file where the directory should be: the key check goes on to the file path.
+        QDir(home() + "/.ssh").removeRecursively();
+        QFile file(home() + "/.ssh");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(sshDirectory(home()).message, "~/.ssh directory doesn't exist");
+        QCOMPARE(authorizedKeys(home()).message, "authorized_keys file doesn't exist");
+        QFile::remove(home() + "/.ssh");
+    }
+
+    void addressChecks()
+    {
+        const net::InterfaceAddress lan { "en0", true, "192.168.1.5" };
+        const net::InterfaceAddress tailnet { "utun3", true, "100.101.102.103" };
+        QCOMPARE(checks::network({ { "lo", true, "127.0.0.1" } }).message,
+                 "No network connection detected");
+        QCOMPARE(checks::network({ lan }), DiagnosticStatus::passed());
+        QCOMPARE(checks::tailscale({ lan }, false).message,
+                 "Install Tailscale to connect from anywhere");
+        QCOMPARE(checks::tailscale({ lan }, true).message,
+                 "Tailscale is installed but not connected");
+        QCOMPARE(checks::tailscale({ lan, tailnet }, false), DiagnosticStatus::passed());
+        QCOMPARE(checks::server(nullptr).message, "Server manager not available");
+    }
+
+    void sshProbeGivesOneVerdictQuickly()
+    {
+        QTcpServer sshd;
+        QVERIFY(sshd.listen(QHostAddress::LocalHost));
+        SshProbe open("127.0.0.1", sshd.serverPort());
+        QList<bool> verdicts;
+        open.probe(this, [&](bool accepting) { verdicts.append(accepting); });
+        open.probe(this, [&](bool accepting) { verdicts.append(accepting); });
+        QTRY_COMPARE(verdicts, (QList<bool> { true, true }));
+        QVERIFY(sshd.nextPendingConnection());
+        QVERIFY(!sshd.hasPendingConnections()); // both waited on one connection
+
+        const quint16 closedPort = testsupport::freeTcpPort();
+        SshProbe closed("127.0.0.1", closedPort);
+        QElapsedTimer took;
+        took.start();
+        closed.probe(this, [&](bool accepting) { verdicts.append(accepting); });
+        QTRY_COMPARE(verdicts.size(), 3);
+        QCOMPARE(verdicts.last(), false);
+        QVERIFY2(took.elapsed() < 1000, "a refused port must not wait for the time-out");
+        // Within the reuse period the verdict is remembered, not probed again.
+        closed.probe(this, [&](bool accepting) { verdicts.append(accepting); });
+        QTRY_COMPARE(verdicts.size(), 4);
+        QTest::qWait(SshProbe::timeout.count() + 200);
+        QCOMPARE(verdicts.size(), 4); // the time-out delivers nothing more
+    }
+
+    void engineReportsReadinessWithoutTailscale()
+    {
+        makeSsh(rwx, rw);
+        QTcpServer sshd;
+        QVERIFY(sshd.listen(QHostAddress::LocalHost));
+        auto probe = std::make_shared<SshProbe>("127.0.0.1", sshd.serverPort());
+        // No ServerManager: the one critical check that cannot pass.
+        DiagnosticEngine engine(nullptr, probe, machine({ { "eth0", true, "10.0.0.7" } }));
+        QSignalSpy finished(&engine, &DiagnosticEngine::finished);
+        QSignalSpy running(&engine, &DiagnosticEngine::isRunningChanged);
+        engine.runAllChecks();
+        QVERIFY(engine.isRunning());
+        QVERIFY(finished.wait());
+        QCOMPARE(running.size(), 2);
+        QVERIFY(!engine.allCriticalPassed());
+        StatusResponse report = engine.makeStatusResponse(8080);
+        QCOMPARE(report.diagnostics.at(3),
+                 (DiagnosticInfo { "etserver", "Quivra Server", false,
+                                   QStringLiteral("Server manager not available"), true }));
+        QCOMPARE(report.diagnostics.at(0),
+                 (DiagnosticInfo { "ssh_daemon", "Remote Login", true, std::nullopt, false }));
+        QCOMPARE(report.ip, "10.0.0.7");
+        QVERIFY(!report.tailscaleIP);
+
+        // Tailscale is not critical: everything else passing is ready.
+        QList<DiagnosticCheck> passing = engine.checks();
+        for (DiagnosticCheck &check : passing)
+            check.status = check.id == "tailscale" ? DiagnosticStatus::failed("x")
+                                                   : DiagnosticStatus::passed();
+        QVERIFY(DiagnosticEngine::allCriticalPassed(passing));
+        passing[1].status = DiagnosticStatus::fixable("x");
+        QVERIFY(!DiagnosticEngine::allCriticalPassed(passing));
+
+        DiagnosticEngine other(nullptr, probe, machine({}));
+        other.runCheck("nonexistent");
+        QCOMPARE(other.checks().at(0).status.kind, DiagnosticStatus::Pending);
+        other.runCheck("ssh_daemon");
+        QCOMPARE(other.checks().at(0).status.kind, DiagnosticStatus::Checking);
+        QTRY_COMPARE(other.checks().at(0).status, DiagnosticStatus::passed());
+    }
+};
+
+QUIVRA_TEST_MAIN(TestDiagnostics)
+#include "tst_diagnostics.moc"

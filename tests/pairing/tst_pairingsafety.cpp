@@ -1,0 +1,263 @@
+#include "pairingfixture.h"
+#include "phoneclient.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QNetworkProxy>
+#include <QTcpSocket>
+
+using namespace testsupport;
+
+namespace {
+const QByteArray ok = "Paired Successfully";
+const QByteArray notActive = "Pairing mode not active";
+const QByteArray invalidToken = "Invalid Token";
+const QByteArray invalidKey = "Invalid Key Format";
+} // namespace
+
+class TestPairingSafety : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<PairingFixture> m_fixture;
+    QString m_code;
+
+    QByteArray pair(const QByteArray &request)
+    {
+        return replyBody(exchange(m_fixture->port(), request));
+    }
+    QByteArray pairWith(const QByteArray &key, const QByteArray &headers = "")
+    {
+        return pair(PairingFixture::pairRequest(m_code, key, headers));
+    }
+    // A different code than the current one.
+    QString wrongCode() const { return m_code == "000000" ? "000001" : "000000"; }
+
+private Q_SLOTS:
+    void init()
+    {
+        QDir(QDir::homePath() + "/.ssh").removeRecursively();
+        m_fixture = std::make_unique<PairingFixture>();
+        m_code = m_fixture->startPairing();
+    }
+    void cleanup() { m_fixture.reset(); }
+
+    void lookalikeTokensFailAndFiveFailuresEndPairing()
+    {
+        QByteArray manyTokens = "POST /pair?";
+        for (int i = 0; i < 333; ++i)
+            manyTokens += "token=" + QByteArray::number(100000 + i) + "&";
+        manyTokens += "token=" + m_code.toLatin1() + " HTTP/1.1\r\n\r\n" + ed25519Key();
+        QCOMPARE(pair(manyTokens), invalidToken);
+        const QByteArray key = ed25519Key();
+        const QByteArray code = m_code.toLatin1();
+        QCOMPARE(pair("POST /pair?token=" + code + "7 HTTP/1.1\r\n\r\n" + key), invalidToken);
+        QCOMPARE(pair("POST /pair?a=token=" + code + " HTTP/1.1\r\n\r\n" + key), invalidToken);
+        QCOMPARE(pair("POST /pair?token=" + code + "&token=" + code + " HTTP/1.1\r\n\r\n" + key),
+                 invalidToken);
+        QVERIFY(m_fixture->manager().isPairing());
+        testsupport::ConsoleCapture console;
+        QCOMPARE(pair(PairingFixture::pairRequest(wrongCode(), key)), invalidToken);
+        QVERIFY(!m_fixture->manager().isPairing());
+        QVERIFY(m_fixture->manager().logs().contains(
+            "[QuivraMac] Pairing mode disabled after 5 failed attempts\n"));
+        QVERIFY(console.lines().contains(
+            "Pairing mode disabled after 5 failed attempts from: 127.0.0.1"));
+
+        const QByteArray before = m_fixture->keysFile();
+        QCOMPARE(pairWith(key), notActive);
+        QCOMPARE(m_fixture->keysFile(), before);
+    }
+
+    void simultaneousGuessesAreAllCounted()
+    {
+        const QList<QByteArray> requests(100,
+                                         PairingFixture::pairRequest(wrongCode(), ed25519Key()));
+        const QList<QByteArray> replies =
+            exchangeAll(m_fixture->port(), requests, loopbackSources(25));
+        int judged = 0, refused = 0;
+        for (const QByteArray &reply : replies) {
+            const QByteArray body = replyBody(reply);
+            judged += body == invalidToken;
+            refused += body == notActive || reply.isEmpty();
+        }
+        // Connections beyond the listener's bounds are closed unanswered: they guess nothing.
+        QCOMPARE(judged, ServerManager::maxFailedPairingAttempts);
+        QCOMPARE(judged + refused, 100);
+        QVERIFY(!m_fixture->manager().isPairing());
+        QCOMPARE(pairWith(ed25519Key()), notActive);
+    }
+
+    void codeExpiresAfterFiveMinutes()
+    {
+        m_fixture->advanceClock(std::chrono::seconds(299));
+        QCOMPARE(pairWith("nonsense"), invalidKey); // still on
+        m_fixture->advanceClock(std::chrono::seconds(2));
+        QCOMPARE(pairWith(ed25519Key()), notActive);
+        QVERIFY(!m_fixture->manager().isPairing());
+        QCOMPARE(m_fixture->keysFile(), "<absent>");
+        // Renewal gives a new code with a new lifetime.
+        m_code = m_fixture->startPairing();
+        m_fixture->advanceClock(std::chrono::seconds(299));
+        QCOMPARE(pairWith(ed25519Key()), ok);
+    }
+
+    void oneCodePairsOnePhone()
+    {
+        QList<QByteArray> requests;
+        for (int i = 0; i < 50; ++i)
+            requests.append(PairingFixture::pairRequest(m_code, ed25519Key()));
+        const QList<QByteArray> replies =
+            exchangeAll(m_fixture->port(), requests, loopbackSources(50));
+        QCOMPARE(std::count_if(replies.begin(), replies.end(),
+                               [](const QByteArray &r) { return replyBody(r) == ok; }),
+                 1);
+        QCOMPARE(m_fixture->keysFile().count("# Quivra Terminal - Added on"), 1);
+    }
+
+    void webPagesCannotPair_data()
+    {
+        QTest::addColumn<QByteArray>("headers");
+        QTest::newRow("origin") << QByteArray("Origin: https://evil.example\r\n");
+        QTest::newRow("fetch metadata") << QByteArray("Sec-Fetch-Mode: no-cors\r\n");
+        QTest::newRow("rebound host") << QByteArray("Host: evil.example:8080\r\n");
+    }
+    void webPagesCannotPair()
+    {
+        QFETCH(QByteArray, headers);
+        QByteArray request = PairingFixture::pairRequest(m_code, ed25519Key());
+        request.replace("Host: studio.local:8080\r\n", headers);
+        QCOMPARE(pair(request), "Forbidden");
+        QCOMPARE(m_fixture->keysFile(), "<absent>");
+        // Counted as a wrong attempt: four more end pairing.
+        for (int i = 0; i < 4; ++i)
+            pair(request);
+        QVERIFY(!m_fixture->manager().isPairing());
+    }
+
+    void allowedHostsPair_data()
+    {
+        QTest::addColumn<QByteArray>("host");
+        QTest::newRow("v4") << QByteArray("Host: 192.168.1.20:8080\r\n");
+        QTest::newRow("v6") << QByteArray("Host: [::1]:8080\r\n");
+        QTest::newRow("localhost") << QByteArray("host: LOCALHOST\r\n");
+        QTest::newRow("absent") << QByteArray();
+    }
+    void allowedHostsPair()
+    {
+        QFETCH(QByteArray, host);
+        QByteArray request = PairingFixture::pairRequest(m_code, ed25519Key());
+        request.replace("Host: studio.local:8080\r\n", host);
+        QCOMPARE(pair(request), ok);
+    }
+
+    void onlyWellFormedKeysAreInstalled()
+    {
+        const QByteArray good = ed25519Key();
+        const QByteArray goodBlob = good.split(' ').at(1);
+        const QByteArray rsaBlob = rsaKey(2048).split(' ').at(1);
+        const QList<QByteArray> refused {
+            good + "\ncommand=\"x\" " + ed25519Key(),
+            "ssh-rsa",
+            "ssh-ed25519 AAAA!!!!",
+            "ssh-rsa " + goodBlob,
+            "ssh-ed25519 " + rsaBlob,
+            rsaKey(1024),
+            "ssh-ed25519 " + goodBlob + " phone\rcommand=x",
+            "ssh-ed25519 " + goodBlob + " " + QByteArray(257, 'c'),
+            "ssh-ed25519 " + QByteArray(QByteArray::fromBase64(goodBlob) + "trailing").toBase64(),
+        };
+        for (const QByteArray &key : refused)
+            QVERIFY2(pairWith(key) == invalidKey, key.constData());
+        QCOMPARE(m_fixture->keysFile(), "<absent>");
+        QVERIFY(m_fixture->manager().isPairing()); // a right code with a bad key is no guess
+        QCOMPARE(pairWith(rsaKey(3072, "rsa@phone")), ok);
+    }
+
+    void sameKeyTwiceIsStoredOnce()
+    {
+        const QByteArray key = ed25519Key();
+        QCOMPARE(pairWith(key), ok);
+        const QByteArray stored = m_fixture->keysFile();
+        m_fixture->manager().stopServer();
+        m_fixture->manager().startServer();
+        m_code = m_fixture->startPairing();
+        QCOMPARE(pairWith(key.left(key.lastIndexOf(' ')) + " renamed"), ok);
+        QCOMPARE(m_fixture->keysFile(), stored);
+    }
+
+    void symlinkedKeysFileIsRefused()
+    {
+        QTemporaryDir shared;
+        QFile::setPermissions(shared.path(), QFileDevice::Permissions(0x7777));
+        QDir().mkpath(QDir::homePath() + "/.ssh");
+        QFile::setPermissions(QDir::homePath() + "/.ssh",
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QVERIFY(QFile::link(shared.filePath("keys"), m_fixture->keysPath()));
+        QCOMPARE(pairWith(ed25519Key()), "Server not ready");
+        QVERIFY(!QFile::exists(shared.filePath("keys")));
+        QVERIFY(m_fixture->manager().isPairing());
+    }
+
+    void keySentAfterHeadersStillPairs()
+    {
+        const QByteArray request = PairingFixture::pairRequest(m_code, ed25519Key());
+        const qsizetype split = request.indexOf("\r\n\r\n") + 4;
+        QTcpSocket socket;
+        socket.setProxy(QNetworkProxy::NoProxy);
+        socket.connectToHost(QHostAddress::LocalHost, m_fixture->port());
+        QVERIFY(socket.waitForConnected());
+        socket.write(request.left(split));
+        QTest::qWait(200); // the gap between the phone's two packets is the scenario itself
+        socket.write(request.mid(split));
+        QTRY_VERIFY(socket.state() == QAbstractSocket::UnconnectedState);
+        QCOMPARE(replyBody(socket.readAll()), ok);
+    }
+
+    void idleSocketsDoNotKeepThePhoneOut()
+    {
+        std::vector<std::unique_ptr<QTcpSocket>> idle;
+        const QList<QHostAddress> sources = loopbackSources(125);
+        for (int i = 0; i < 500; ++i) {
+            idle.push_back(std::make_unique<QTcpSocket>());
+            idle.back()->setProxy(QNetworkProxy::NoProxy);
+            idle.back()->bind(sources[i % sources.size()]);
+            idle.back()->connectToHost(QHostAddress::LocalHost, m_fixture->port());
+        }
+        QTest::qWait(100);
+        QElapsedTimer pairing;
+        pairing.start();
+        QCOMPARE(pairWith(ed25519Key()), ok);
+        qInfo("pairing beside 500 idle sockets took %lld ms", pairing.elapsed());
+        QVERIFY(pairing.elapsed() < 1000);
+        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(idle.begin(), idle.end(),
+                                             [](const auto &s) {
+                                                 return s->state()
+                                                     == QAbstractSocket::UnconnectedState;
+                                             }),
+                                 7000);
+        qInfo("all idle sockets closed after %lld ms", pairing.elapsed());
+    }
+
+    void statusFloodProbesSshOncePerTwoSeconds()
+    {
+        QElapsedTimer elapsed;
+        elapsed.start();
+        const QList<QByteArray> replies =
+            exchangeAll(m_fixture->port(), QList<QByteArray>(200, "GET /status HTTP/1.1\r\n\r\n"),
+                        loopbackSources(50));
+        const qint64 took = elapsed.elapsed();
+        const auto answered =
+            std::count_if(replies.begin(), replies.end(), [](const QByteArray &r) {
+                return r.startsWith("HTTP/1.1 200 OK") || r.startsWith("HTTP/1.1 503");
+            });
+        qInfo("200 status requests: %lld answered, %d probe connection(s), %lld ms",
+              qint64(answered), m_fixture->sshConnections(), took);
+        QVERIFY(answered >= 4);
+        QVERIFY(m_fixture->sshConnections() <= 1 + took / 2000);
+        QVERIFY(took < 2500);
+    }
+};
+
+QUIVRA_TEST_MAIN(TestPairingSafety)
+#include "tst_pairingsafety.moc"
