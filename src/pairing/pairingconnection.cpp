@@ -6,8 +6,9 @@
 #include <QStringDecoder>
 #include <QTcpSocket>
 
-PairingConnection::PairingConnection(QTcpSocket *socket)
+PairingConnection::PairingConnection(QTcpSocket *socket, std::chrono::milliseconds readDeadline)
     : m_socket(socket)
+    , m_readDeadline(readDeadline)
 {
     m_socket->setParent(this);
     connect(m_socket, &QTcpSocket::readyRead, this, &PairingConnection::onReadyRead);
@@ -19,7 +20,7 @@ PairingConnection::PairingConnection(QTcpSocket *socket)
     });
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, &PairingConnection::finishReading);
-    m_deadline.start(readDeadlineMs);
+    m_deadline.start(m_readDeadline);
 }
 
 QString PairingConnection::peerAddress() const
@@ -119,7 +120,7 @@ void PairingConnection::close()
     if (m_socket->state() == QAbstractSocket::UnconnectedState)
         deleteLater();
     else // a phone that stops reading must not hold the connection open
-        QTimer::singleShot(readDeadlineMs, this, [this] {
+        QTimer::singleShot(m_readDeadline, this, [this] {
             m_socket->abort();
             deleteLater();
         });

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
+
 class QTcpSocket;
 
 // One accepted phone connection: reads one request, sends one reply, closes and deletes itself.
@@ -13,9 +15,11 @@ class PairingConnection : public QObject
 
 public:
     static constexpr qsizetype maxRequestBytes = 4096;
-    static constexpr int readDeadlineMs = 5000;
+    static constexpr std::chrono::milliseconds defaultReadDeadline { 5000 };
 
-    explicit PairingConnection(QTcpSocket *socket);
+    // The request must arrive, and a reply must be taken, within readDeadline.
+    explicit PairingConnection(QTcpSocket *socket,
+                               std::chrono::milliseconds readDeadline = defaultReadDeadline);
 
     // "address:port" of the phone, for console lines.
     QString peer() const;
@@ -43,6 +47,7 @@ private:
     QTcpSocket *m_socket;
     QByteArray m_buffer;
     QTimer m_deadline;
+    std::chrono::milliseconds m_readDeadline;
     bool m_reading = true;
     bool m_closed = false;
 };

@@ -33,6 +33,11 @@ ServerManager *PairingListener::serverManager() const
 PairingListener::~PairingListener()
 {
     stop();
+    // Requests still being answered (status reports waiting for their checks) get a reply.
+    const QList<PairingConnection *> answering = m_connections;
+    for (PairingConnection *connection : answering)
+        connection->sendResponse(QStringLiteral("503 Service Unavailable"),
+                                 QStringLiteral("Server not ready"));
 }
 
 void PairingListener::start(quint16 port, bool advertise)
@@ -69,13 +74,19 @@ void PairingListener::stop()
         return;
     m_advertiser.withdraw();
     m_server.close();
+    // Connections whose request has not arrived would never be answered.
+    const QList<PairingConnection *> open = m_connections;
+    for (PairingConnection *connection : open) {
+        if (connection->isReading())
+            connection->close();
+    }
     console::line(QStringLiteral("PairingListener State: cancelled"));
 }
 
 void PairingListener::acceptConnections()
 {
     while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-        auto *connection = new PairingConnection(socket);
+        auto *connection = new PairingConnection(socket, m_readDeadline);
         const QString address = connection->peerAddress();
         console::line(QStringLiteral("[PairingListener] New connection from ")
                       + connection->peer());

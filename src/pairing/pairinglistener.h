@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pairing/pairingconnection.h"
 #include "pairing/pairingresult.h"
 #include "platform/dnssdadvertiser.h"
 
@@ -11,7 +12,6 @@
 #include <functional>
 #include <memory>
 
-class PairingConnection;
 class ServerManager;
 class SshProbe;
 
@@ -34,6 +34,8 @@ public:
     void stop();
     bool isListening() const { return m_server.isListening(); }
     quint16 port() const { return m_port; }
+    // How long a connection may take to send its request (tests shorten it).
+    void setReadDeadline(std::chrono::milliseconds deadline) { m_readDeadline = deadline; }
     // The owner, or nullptr once it is gone.
     ServerManager *serverManager() const;
 
@@ -63,4 +65,5 @@ private:
     // Shared by all status requests, so that they share its verdict.
     std::shared_ptr<SshProbe> m_sshProbe;
     int m_statusRequestsInProgress = 0;
+    std::chrono::milliseconds m_readDeadline = PairingConnection::defaultReadDeadline;
 };

@@ -40,10 +40,12 @@ QList<QByteArray> exchangeAll(quint16 port, const QList<QByteArray> &requests,
             return c->socket.state() == QAbstractSocket::UnconnectedState;
         });
     };
-    const bool closed = QTest::qWaitFor(allClosed, 10000);
+    QTest::qWaitFor(allClosed, 10000);
     QList<QByteArray> replies;
     for (const auto &c : clients)
-        replies.append(closed ? c->reply : QByteArray("<still open>"));
+        replies.append(c->socket.state() == QAbstractSocket::UnconnectedState
+                           ? c->reply
+                           : QByteArray("<still open>"));
     return replies;
 }
 
