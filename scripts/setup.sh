@@ -9,9 +9,9 @@ packages=(
     cmake ninja-build g++ pkgconf qt6-base-dev qt6-base-dev-tools libgl-dev
     libavahi-compat-libdnssd-dev
     # run: pgrep, DNS-SD daemon and its bus
-    procps avahi-daemon dbus
-    # tests: real SSH server and client, service browser, network namespaces
-    avahi-utils openssh-server openssh-client iproute2 util-linux
+    procps avahi-daemon dbus dbus-bin
+    # tests: real SSH server and client, service browser, network namespaces, HTTP client
+    avahi-utils openssh-server openssh-client iproute2 util-linux curl
 )
 
 missing=()

@@ -1,4 +1,6 @@
 #include "app/quivramacapp.h"
+#include "control/controlservice.h"
+#include "platform/console.h"
 #include "platform/quitsignals.h"
 
 #include <QCoreApplication>
@@ -11,7 +13,20 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(QUIVRA_VERSION));
     platform::quitOnTerminationSignals(app);
 
+    // Before the server manager exists: a second instance must not clean up the first one's
+    // server as if it were left over.
+    const ControlService::Claim claim = ControlService::claimName();
+    if (claim == ControlService::Claim::AlreadyRunning) {
+        console::line(QStringLiteral("QuivraMac is already running"));
+        return 0;
+    }
+    if (claim == ControlService::Claim::NoSessionBus)
+        console::line(
+            QStringLiteral("No session bus: QuivraMac cannot be controlled from the command line"));
+
     QuivraMacApp quivra;
+    if (claim == ControlService::Claim::Claimed)
+        ControlService::publish(&quivra.serverManager());
     quivra.serverManager();
     return app.exec();
 }

@@ -40,9 +40,15 @@ QString DnsSdDaemon::ensureRunning()
     if (::getuid() != 0)
         return QStringLiteral("no avahi-daemon is running and only root may start one");
 
-    if (!QFile::exists(QStringLiteral("/run/dbus/system_bus_socket"))) {
+    // A socket left behind by a bus that is gone does not count.
+    const bool busAnswers = run(QStringLiteral("dbus-send"),
+                                { "--system", "--print-reply", "--dest=org.freedesktop.DBus", "/",
+                                  "org.freedesktop.DBus.GetId" })
+        == 0;
+    if (!busAnswers) {
         QDir().mkpath(QStringLiteral("/run/dbus"));
         QFile::remove(busPidFile);
+        QFile::remove(QStringLiteral("/run/dbus/system_bus_socket"));
         if (run(QStringLiteral("dbus-daemon"),
                 { QStringLiteral("--system"), QStringLiteral("--fork") })
             != 0)

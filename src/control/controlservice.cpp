@@ -1,0 +1,112 @@
+#include "control/controlservice.h"
+
+#include "server/servermanager.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QMetaProperty>
+
+ControlService::Claim ControlService::claimName()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return Claim::NoSessionBus;
+    // No queueing and no replacement: a second instance must find the name taken.
+    const auto reply = bus.interface()->registerService(
+        QString::fromLatin1(serviceName), QDBusConnectionInterface::DontQueueService,
+        QDBusConnectionInterface::DontAllowReplacement);
+    return reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered
+        ? Claim::Claimed
+        : Claim::AlreadyRunning;
+}
+
+void ControlService::publish(ServerManager *manager)
+{
+    new ServerManagerAdaptor(manager);
+    QDBusConnection::sessionBus().registerObject(QString::fromLatin1(objectPath), manager,
+                                                 QDBusConnection::ExportAdaptors);
+}
+
+ServerManagerAdaptor::ServerManagerAdaptor(ServerManager *manager)
+    : QDBusAbstractAdaptor(manager)
+    , m_manager(manager)
+{
+    // Every observable property of the manager is announced when it changes.
+    const QMetaObject *meta = manager->metaObject();
+    const QMetaMethod announce =
+        metaObject()->method(metaObject()->indexOfSlot("announceChange()"));
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        if (meta->property(i).hasNotifySignal())
+            connect(manager, meta->property(i).notifySignal(), this, announce);
+    }
+}
+
+void ServerManagerAdaptor::announceChange()
+{
+    const QMetaObject *meta = m_manager->metaObject();
+    const int signal = senderSignalIndex();
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        if (property.notifySignalIndex() != signal)
+            continue;
+        QDBusMessage message = QDBusMessage::createSignal(
+            QString::fromLatin1(ControlService::objectPath),
+            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
+        message << QString::fromLatin1(ControlService::interfaceName)
+                << QVariantMap { { QString::fromLatin1(property.name()),
+                                   property.read(m_manager) } }
+                << QStringList();
+        QDBusConnection::sessionBus().send(message);
+    }
+}
+
+bool ServerManagerAdaptor::isRunning() const
+{
+    return m_manager->isRunning();
+}
+double ServerManagerAdaptor::uptime() const
+{
+    return m_manager->uptime();
+}
+int ServerManagerAdaptor::port() const
+{
+    return m_manager->port();
+}
+QString ServerManagerAdaptor::pairingToken() const
+{
+    return m_manager->pairingToken();
+}
+QString ServerManagerAdaptor::localIP() const
+{
+    return m_manager->localIP();
+}
+bool ServerManagerAdaptor::isPairing() const
+{
+    return m_manager->isPairing();
+}
+QString ServerManagerAdaptor::logs() const
+{
+    return m_manager->logs();
+}
+QString ServerManagerAdaptor::lastPairedDevice() const
+{
+    return m_manager->lastPairedDevice();
+}
+
+void ServerManagerAdaptor::StartServer()
+{
+    m_manager->startServer();
+}
+void ServerManagerAdaptor::StopServer()
+{
+    m_manager->stopServer();
+}
+void ServerManagerAdaptor::TogglePairingMode()
+{
+    m_manager->togglePairingMode();
+}
+QString ServerManagerAdaptor::Logs() const
+{
+    return m_manager->logs();
+}

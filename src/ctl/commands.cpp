@@ -1,0 +1,178 @@
+#include "ctl/commands.h"
+
+#include "ctl/bigdigits.h"
+#include "ctl/controlclient.h"
+#include "platform/quitsignals.h"
+
+#include <QCoreApplication>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QTextStream>
+#include <QTimer>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace commands {
+namespace {
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QTextStream &err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+int failedCall(const ControlClient &client)
+{
+    err() << "QuivraMac did not answer: " << client.lastError() << Qt::endl;
+    return Failed;
+}
+
+QString duration(int seconds)
+{
+    return QString::asprintf("%dh %dm %ds", seconds / 3600, seconds / 60 % 60, seconds % 60);
+}
+
+} // namespace
+
+int status(ControlClient &client, bool json)
+{
+    if (json) {
+        // Exactly what a phone is told, from the same endpoint.
+        QNetworkAccessManager network;
+        QNetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:8080/status")));
+        QNetworkReply *reply = network.get(request);
+        QEventLoop loop;
+        QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+        loop.exec();
+        if (reply->error() != QNetworkReply::NoError) {
+            err() << "The status endpoint did not answer (" << reply->errorString()
+                  << "); is the server running?" << Qt::endl;
+            return Failed;
+        }
+        out() << reply->readAll() << Qt::endl;
+        return Success;
+    }
+    const bool running = client.property("isRunning").toBool();
+    const QString device = client.property("lastPairedDevice").toString();
+    out() << "Server:       "
+          << (running ? "running, up " + duration(client.property("uptime").toInt())
+                      : QStringLiteral("stopped"))
+          << "\nPort:         " << client.property("port").toInt()
+          << "\nAddress:      " << client.property("localIP").toString()
+          << "\nPairing:      " << (client.property("isPairing").toBool() ? "on" : "off")
+          << "\nLast paired:  " << (device.isEmpty() ? QStringLiteral("none") : device) << Qt::endl;
+    return Success;
+}
+
+int start(ControlClient &client)
+{
+    if (!client.call(QStringLiteral("StartServer")))
+        return failedCall(client);
+    const bool running = client.property("isRunning").toBool();
+    (running ? out() : err()) << (running ? "Server running"
+                                          : "The server did not start; see quivractl logs")
+                              << Qt::endl;
+    return running ? Success : Failed;
+}
+
+int stop(ControlClient &client)
+{
+    if (!client.call(QStringLiteral("StopServer")))
+        return failedCall(client);
+    out() << "Server stopped" << Qt::endl;
+    return Success;
+}
+
+int pair(ControlClient &client)
+{
+    if (!client.property("isRunning").toBool()) {
+        err() << "The server is not running, so no phone can pair. Start it with: quivractl start"
+              << Qt::endl;
+        return Failed;
+    }
+    const QString before = client.property("lastPairedDevice").toString();
+    if (!client.property("isPairing").toBool() && !client.call(QStringLiteral("TogglePairingMode")))
+        return failedCall(client);
+    const QString code = client.property("pairingToken").toString();
+    const QString address = client.property("localIP").toString();
+    out() << "Pairing code: " << code << "\n\n";
+    for (const QString &row : bigdigits::render(code))
+        out() << "  " << row << '\n';
+    out() << "\nAddress: " << address << "\n\n";
+    for (const QString &row : bigdigits::render(address))
+        out() << "  " << row << '\n';
+    out() << "\nOpen Quivra on your iPhone and enter the code. Ctrl-C cancels." << Qt::endl;
+
+    int result = Interrupted;
+    int remaining = 300;
+    const bool terminal = ::isatty(STDOUT_FILENO);
+    QTimer countdown;
+    QObject::connect(&countdown, &QTimer::timeout, [&] {
+        if (--remaining <= 0) {
+            result = Failed;
+            err() << (terminal ? "\n" : "") << "The pairing code expired." << Qt::endl;
+            QCoreApplication::quit();
+        } else if (terminal) {
+            out() << QString::asprintf("\rExpires in %d:%02d ", remaining / 60, remaining % 60)
+                  << Qt::flush;
+        }
+    });
+    countdown.start(1000);
+    QObject::connect(&client, &ControlClient::propertyChanged, [&](const QString &name) {
+        if (name != QLatin1String("isPairing") && name != QLatin1String("lastPairedDevice"))
+            return;
+        // The app finishes a pairing in one step, so by the time it answers this read its
+        // paired device is final.
+        const QString device = client.property("lastPairedDevice").toString();
+        if (!device.isEmpty() && device != before) {
+            out() << (terminal ? "\n" : "") << "Paired with " << device << Qt::endl;
+            result = Success;
+            QCoreApplication::quit();
+        } else if (!client.property("isPairing").toBool()) {
+            err() << (terminal ? "\n" : "") << "Pairing mode was switched off." << Qt::endl;
+            result = Failed;
+            QCoreApplication::quit();
+        }
+    });
+    platform::quitOnTerminationSignals(*QCoreApplication::instance());
+    QCoreApplication::exec();
+    if (result != Success && client.property("isPairing").toBool())
+        client.call(QStringLiteral("TogglePairingMode"));
+    if (result == Interrupted)
+        err() << (terminal ? "\n" : "") << "Pairing cancelled." << Qt::endl;
+    return result;
+}
+
+int logs(ControlClient &client, bool follow)
+{
+    const std::optional<QVariant> text = client.call(QStringLiteral("Logs"));
+    if (!text)
+        return failedCall(client);
+    QString shown = text->toString();
+    out() << shown << Qt::flush;
+    if (!follow)
+        return Success;
+    QObject::connect(&client, &ControlClient::propertyChanged,
+                     [&](const QString &name, const QVariant &value) {
+                         if (name != QLatin1String("logs"))
+                             return;
+                         const QString now = value.toString();
+                         // The log keeps only its tail, so find where the shown text ends in it.
+                         const QString tail = shown.right(200);
+                         const qsizetype at = tail.isEmpty() ? -1 : now.lastIndexOf(tail);
+                         out() << (at >= 0 ? now.mid(at + tail.size()) : now) << Qt::flush;
+                         shown = now;
+                     });
+    platform::quitOnTerminationSignals(*QCoreApplication::instance());
+    QCoreApplication::exec();
+    return Success;
+}
+
+} // namespace commands

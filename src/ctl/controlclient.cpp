@@ -1,0 +1,55 @@
+#include "ctl/controlclient.h"
+
+#include "control/controlservice.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
+
+ControlClient::ControlClient()
+    : m_interface(QString::fromLatin1(ControlService::serviceName),
+                  QString::fromLatin1(ControlService::objectPath),
+                  QString::fromLatin1(ControlService::interfaceName), QDBusConnection::sessionBus())
+{
+    QDBusConnection::sessionBus().connect(
+        QString::fromLatin1(ControlService::serviceName),
+        QString::fromLatin1(ControlService::objectPath),
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"),
+        this, SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+}
+
+QString ControlClient::unreachableReason() const
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return QStringLiteral("No session bus, so QuivraMac cannot be reached. Run quivractl in "
+                              "the same login session as the app.");
+    if (!bus.interface()->isServiceRegistered(QString::fromLatin1(ControlService::serviceName)))
+        return QStringLiteral("QuivraMac is not running. Start it with \"quivramac\" or "
+                              "\"systemctl --user start quivramac\".");
+    return {};
+}
+
+QVariant ControlClient::property(const char *name) const
+{
+    return m_interface.property(name);
+}
+
+std::optional<QVariant> ControlClient::call(const QString &method)
+{
+    const QDBusMessage reply = m_interface.call(method);
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        m_lastError = reply.errorMessage();
+        return std::nullopt;
+    }
+    return reply.arguments().value(0);
+}
+
+void ControlClient::onPropertiesChanged(const QString &interface, const QVariantMap &changed,
+                                        const QStringList &)
+{
+    if (interface != QLatin1String(ControlService::interfaceName))
+        return;
+    for (auto it = changed.cbegin(); it != changed.cend(); ++it)
+        Q_EMIT propertyChanged(it.key(), it.value());
+}

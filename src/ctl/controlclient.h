@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDBusInterface>
+#include <QObject>
+#include <QVariant>
+
+#include <optional>
+
+// quivractl's view of the running app over the session bus.
+class ControlClient : public QObject
+{
+    Q_OBJECT
+
+public:
+    ControlClient();
+
+    // Empty when the app can be reached; else why not, in one line for the user.
+    QString unreachableReason() const;
+
+    QVariant property(const char *name) const;
+    // Calls a method and waits for it; the reply's first value, or nothing on an error.
+    std::optional<QVariant> call(const QString &method);
+    QString lastError() const { return m_lastError; }
+
+Q_SIGNALS:
+    void propertyChanged(const QString &name, const QVariant &value);
+
+private Q_SLOTS:
+    void onPropertiesChanged(const QString &interface, const QVariantMap &changed,
+                             const QStringList &invalidated);
+
+private:
+    QDBusInterface m_interface;
+    QString m_lastError;
+};

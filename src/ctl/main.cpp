@@ -1,0 +1,91 @@
+#include "ctl/commands.h"
+#include "ctl/controlclient.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTextStream>
+
+namespace {
+
+struct Command
+{
+    const char *name;
+    const char *summary;
+};
+
+constexpr Command commandList[] = {
+    { "status", "Show the server, its address, pairing mode and the last paired phone." },
+    { "start", "Start the Quivra server." },
+    { "stop", "Stop the Quivra server." },
+    { "pair", "Switch pairing mode on, show the code and wait for a phone to pair." },
+    { "logs", "Print the app's log." },
+};
+
+QString overview()
+{
+    QString text = QStringLiteral("Usage: quivractl <command> [options]\n\nControls the running "
+                                  "QuivraMac app.\n\nCommands:\n");
+    for (const Command &command : commandList)
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QLatin1String(command.name), -7)
+                    .arg(QLatin1String(command.summary));
+    return text + QStringLiteral("\nRun \"quivractl <command> --help\" for a command's options.\n");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quivractl"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUIVRA_VERSION));
+    QTextStream err(stderr);
+
+    QStringList arguments = app.arguments();
+    const QString name = arguments.value(1);
+    const auto found =
+        std::find_if(std::begin(commandList), std::end(commandList),
+                     [&](const Command &c) { return name == QLatin1String(c.name); });
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        QTextStream(stdout) << overview();
+        return commands::Success;
+    }
+    if (found == std::end(commandList)) {
+        err << (name.isEmpty() ? QString() : "Unknown command \"" + name + "\".\n") << overview();
+        return commands::Usage;
+    }
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QLatin1String(found->summary));
+    parser.addHelpOption();
+    const QCommandLineOption json(QStringLiteral("json"),
+                                  QStringLiteral("Print the status report a phone receives."));
+    const QCommandLineOption follow({ QStringLiteral("f"), QStringLiteral("follow") },
+                                    QStringLiteral("Keep printing new log lines."));
+    if (name == QLatin1String("status"))
+        parser.addOption(json);
+    if (name == QLatin1String("logs"))
+        parser.addOption(follow);
+    arguments.removeAt(1);
+    arguments[0] = QStringLiteral("quivractl ") + name;
+    parser.process(arguments);
+    if (!parser.positionalArguments().isEmpty()) {
+        err << "Unexpected argument \"" << parser.positionalArguments().constFirst() << "\".\n";
+        return commands::Usage;
+    }
+
+    ControlClient client;
+    if (const QString reason = client.unreachableReason(); !reason.isEmpty()) {
+        err << reason << Qt::endl;
+        return commands::NotRunning;
+    }
+    if (name == QLatin1String("status"))
+        return commands::status(client, parser.isSet(json));
+    if (name == QLatin1String("start"))
+        return commands::start(client);
+    if (name == QLatin1String("stop"))
+        return commands::stop(client);
+    if (name == QLatin1String("pair"))
+        return commands::pair(client);
+    return commands::logs(client, parser.isSet(follow));
+}

@@ -1,0 +1,105 @@
+#include "appbundle.h"
+#include "testsupport.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusInterface>
+
+#include <csignal>
+
+using testsupport::quivractl;
+
+// The running app driven over its session-bus interface, directly and through quivractl.
+class TestControl : public QObject
+{
+    Q_OBJECT
+
+    testsupport::AppBundle m_bundle;
+
+    static QDBusInterface manager()
+    {
+        return QDBusInterface("org.quivra.QuivraMac", "/ServerManager",
+                              "org.quivra.QuivraMac.ServerManager");
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!QDBusConnection::sessionBus().isConnected())
+            QSKIP("no session bus; run under dbus-run-session");
+        // Before the app runs: a clear message and its own exit code.
+        const auto [code, output] = quivractl({ "status" });
+        QCOMPARE(code, 3);
+        QVERIFY(output.startsWith("QuivraMac is not running."));
+        QCOMPARE(quivractl({ "frobnicate" }).first, 2);
+
+        m_bundle.launch();
+        QTRY_VERIFY(
+            QDBusConnection::sessionBus().interface()->isServiceRegistered("org.quivra.QuivraMac"));
+    }
+
+    void cleanupTestCase() { m_bundle.stop(); }
+
+    void methodsChangeTheSameStateAsThePanel()
+    {
+        QDBusInterface app = manager();
+        QTRY_VERIFY(app.property("isRunning").toBool());
+        app.call("StopServer");
+        QVERIFY(!app.property("isRunning").toBool());
+        QVERIFY(quivractl({ "status" }).second.contains("Server:       stopped"));
+        QCOMPARE(quivractl({ "start" }).first, 0);
+        QVERIFY(app.property("isRunning").toBool());
+
+        QDBusConnection::sessionBus().connect(
+            "org.quivra.QuivraMac", "/ServerManager", "org.freedesktop.DBus.Properties",
+            "PropertiesChanged", this,
+            SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+        app.call("TogglePairingMode");
+        const QString first = app.property("pairingToken").toString();
+        QVERIFY(app.property("isPairing").toBool());
+        QTRY_VERIFY(m_announced.contains("isPairing"));
+        app.call("TogglePairingMode");
+        app.call("TogglePairingMode");
+        QVERIFY(app.property("pairingToken").toString() != first);
+        app.call("TogglePairingMode");
+        QVERIFY(quivractl({ "logs" }).second.contains("[QuivraMac] Pairing mode disabled"));
+    }
+
+    void secondInstanceLeavesTheFirstAlone()
+    {
+        testsupport::AppBundle second;
+        second.launch();
+        QVERIFY(second.process().waitForFinished(5000));
+        QCOMPARE(second.process().exitCode(), 0);
+        QCOMPARE(second.output().trimmed(), "QuivraMac is already running");
+        QVERIFY(manager().property("isRunning").toBool());
+    }
+
+    void interruptedPairSwitchesPairingOff()
+    {
+        QProcess pair;
+        pair.setProcessChannelMode(QProcess::MergedChannels);
+        pair.start(testsupport::quivractlPath(), { "pair" });
+        QByteArray output;
+        QTRY_VERIFY((output += pair.readAll()).contains("Ctrl-C cancels."));
+        const QString code = manager().property("pairingToken").toString();
+        QVERIFY(output.contains(QByteArray("Pairing code: " + code.toLatin1())));
+        QVERIFY(manager().property("isPairing").toBool());
+        ::kill(pid_t(pair.processId()), SIGINT);
+        QVERIFY(pair.waitForFinished(5000));
+        QCOMPARE(pair.exitCode(), 130);
+        QVERIFY(!manager().property("isPairing").toBool());
+    }
+
+public Q_SLOTS:
+    void onPropertiesChanged(const QString &, const QVariantMap &changed, const QStringList &)
+    {
+        m_announced += changed.keys();
+    }
+
+private:
+    QStringList m_announced;
+};
+
+QUIVRA_TEST_MAIN(TestControl)
+#include "tst_control.moc"

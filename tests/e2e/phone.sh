@@ -1,0 +1,148 @@
+#!/usr/bin/env bash
+# A phone's whole journey against the real app: find the service by DNS-SD, read /status, pair
+# with the code that `quivractl pair` shows, then log in over SSH with the paired key.
+# Usage: phone.sh QUIVRAMAC FAKE_ETSERVER QUIVRACTL
+# Runs as root in a private network namespace, so that its SSH server on port 22 and the app's
+# ports touch nothing on the host. Exit 77 (skipped) where a real part is missing, unless
+# QUIVRA_REQUIRE_E2E is set, as in CI.
+set -euo pipefail
+
+skip() {
+    if [ -n "${QUIVRA_REQUIRE_E2E:-}" ]; then
+        echo "FAIL (required): $*" >&2
+        exit 1
+    fi
+    echo "SKIP: $*"
+    exit 77
+}
+fail() {
+    echo "FAIL: $*" >&2
+    for log in app.log pair.out sshd.log; do
+        [ -f "$work/$log" ] && { echo "--- $log"; cat "$work/$log"; } >&2
+    done
+    exit 1
+}
+# Polls for a condition, at most $1 seconds.
+within() {
+    local deadline=$((SECONDS + $1))
+    shift
+    until "$@"; do
+        ((SECONDS < deadline)) || return 1
+        sleep 0.1
+    done
+}
+
+if [ "${1:-}" != --inside ]; then
+    for tool in avahi-browse avahi-daemon dbus-daemon dbus-run-session curl ssh ssh-keygen \
+        unshare ip /usr/sbin/sshd; do
+        command -v "$tool" >/dev/null || skip "$tool is not installed (scripts/setup.sh installs it)"
+    done
+    [ "$(id -u)" -eq 0 ] || skip "needs root to run an SSH server on port 22 in a private network namespace"
+    unshare -n true 2>/dev/null || skip "cannot make a network namespace here"
+
+    export work=$(mktemp -d)
+    started_bus= started_avahi=
+    cleanup() {
+        [ -n "$started_avahi" ] && avahi-daemon -k 2>/dev/null || true
+        [ -n "$started_bus" ] && kill "$(cat /run/dbus/pid)" 2>/dev/null || true
+        rm -rf "$work"
+    }
+    trap cleanup EXIT
+    # DNS-SD goes through the system's daemon; where none runs, one on loopback only.
+    if ! avahi-daemon --check 2>/dev/null; then
+        if ! dbus-send --system --print-reply --dest=org.freedesktop.DBus / \
+            org.freedesktop.DBus.GetId >/dev/null 2>&1; then
+            mkdir -p /run/dbus && rm -f /run/dbus/pid /run/dbus/system_bus_socket
+            dbus-daemon --system --fork && started_bus=1
+        fi
+        printf '[server]\nallow-interfaces=lo\nuse-ipv6=no\n[wide-area]\nenable-wide-area=no\n[publish]\npublish-hinfo=no\npublish-workstation=no\n' >"$work/avahi.conf"
+        avahi-daemon -D -f "$work/avahi.conf" && started_avahi=1
+        within 10 avahi-daemon --check || fail "avahi-daemon does not start"
+    fi
+    unshare -n -- dbus-run-session -- "$0" --inside "$@"
+    exit
+fi
+
+shift
+app=$1 etserver=$2 ctl=$3
+step() { echo "== $*"; }
+
+step "private network: loopback and one Ethernet address"
+ip link set lo up
+ip link add eth0 type veth peer name eth1
+ip addr add 192.0.2.10/24 dev eth0
+ip link set eth0 up && ip link set eth1 up
+
+step "a real OpenSSH server on 127.0.0.1:22"
+export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share
+mkdir -p "$HOME/.ssh" /run/sshd
+chmod 700 "$HOME/.ssh" && touch "$HOME/.ssh/authorized_keys" && chmod 600 "$HOME/.ssh/authorized_keys"
+ssh-keygen -q -t ed25519 -N '' -f "$work/host_key"
+cat >"$work/sshd_config" <<CONFIG
+Port 22
+ListenAddress 127.0.0.1
+HostKey $work/host_key
+PidFile $work/sshd.pid
+AuthorizedKeysFile $HOME/.ssh/authorized_keys
+StrictModes no
+UsePAM no
+PasswordAuthentication no
+KbdInteractiveAuthentication no
+PermitRootLogin prohibit-password
+CONFIG
+/usr/sbin/sshd -f "$work/sshd_config" -E "$work/sshd.log"
+trap 'kill $(cat "$work/sshd.pid") 2>/dev/null; [ -n "${app_pid:-}" ] && kill "$app_pid" 2>/dev/null; wait' EXIT
+
+step "the real quivramac with the fake etserver beside it"
+mkdir "$work/bundle" && cp "$app" "$etserver" "$work/bundle/"
+QT_QPA_PLATFORM=offscreen "$work/bundle/quivramac" >"$work/app.log" 2>&1 &
+app_pid=$!
+within 10 grep -q "PairingListener started on port 8080" "$work/app.log" || fail "the app did not start"
+
+step "phone: find the service"
+label=$(hostname | cut -d. -f1)
+browse() {
+    found=$(avahi-browse -rpt _quivra-terminal._tcp 2>/dev/null |
+        grep -m1 "^=;[^;]*;IPv4;QuivraMac-$label;_quivra-terminal._tcp;local;") || return 1
+}
+within 20 browse || fail "QuivraMac-$label was not found by DNS-SD"
+echo "$found"
+port=$(cut -d';' -f9 <<<"$found")
+[ "$port" = 8080 ] || fail "advertised port $port"
+
+step "phone: GET /status"
+status=$(curl -sS --max-time 5 "http://127.0.0.1:$port/status")
+echo "$status"
+for field in '"ready":true' "\"hostname\":\"$label\"" "\"username\":\"$(id -un)\"" \
+    '"ip":"192.0.2.10"' '"pairingPort":8080' '"id":"ssh_daemon","name":"Remote Login","passed":true' \
+    '"id":"ssh_dir"' '"id":"auth_keys"' '"id":"etserver","name":"Quivra Server","passed":true' \
+    '"id":"network"' '"id":"tailscale"'; do
+    grep -qF "$field" <<<"$status" || fail "status lacks $field"
+done
+
+step "user: quivractl pair"
+"$ctl" pair >"$work/pair.out" 2>&1 &
+pair_pid=$!
+within 10 grep -q "^Pairing code: " "$work/pair.out" || fail "quivractl pair showed no code"
+code=$(sed -n 's/^Pairing code: \([0-9]\{6\}\)$/\1/p' "$work/pair.out")
+echo "code $code"
+
+step "phone: POST its new key"
+ssh-keygen -q -t ed25519 -N '' -C "test phone" -f "$work/phone_key"
+reply=$(curl -sS --max-time 5 -H "X-Device-Name: Test Phone" --data-binary "@$work/phone_key.pub" \
+    "http://127.0.0.1:$port/pair?token=$code")
+echo "$reply"
+[ "$reply" = "Paired Successfully" ] || fail "pairing reply: $reply"
+wait "$pair_pid" || fail "quivractl pair exited with $?"
+grep -q "^Paired with Test Phone$" "$work/pair.out" || fail "quivractl pair did not report the phone"
+
+step "phone: log in over SSH with the paired key"
+ssh -i "$work/phone_key" -o IdentitiesOnly=yes -o BatchMode=yes -o StrictHostKeyChecking=no \
+    -o UserKnownHostsFile=/dev/null -o LogLevel=ERROR "$(id -un)@127.0.0.1" true ||
+    fail "ssh with the paired key failed"
+
+step "quivractl status"
+"$ctl" status | tee "$work/status.out"
+grep -q "^Last paired:  Test Phone$" "$work/status.out" || fail "status does not show Test Phone"
+grep -q "^Pairing:      off$" "$work/status.out" || fail "pairing mode is still on"
+echo "PASS"
