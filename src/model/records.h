@@ -11,6 +11,9 @@
 
 #include <optional>
 
+// Construction from the given fields gives a new random id and, where a record has them, the
+// current time; decoding takes every field from its input.
+//
 // The phone app's records of remote hosts, projects and terminal sessions, with the JSON form
 // its data uses: keys equal to the field names, optional fields left out when empty (missing or
 // null accepted), unknown keys ignored, uuids as upper-case 36-character text (any case read).
@@ -46,6 +49,16 @@ QList<IconType> allIconTypes();
 
 struct HostConfiguration
 {
+    HostConfiguration() = default;
+    HostConfiguration(QString name, QString hostname, QString username, qint64 port,
+                      std::optional<QString> themeName = std::nullopt)
+        : name(std::move(name))
+        , hostname(std::move(hostname))
+        , username(std::move(username))
+        , port(port)
+        , themeName(std::move(themeName))
+    { }
+
     QUuid id = QUuid::createUuid();
     QString name;
     QString hostname;
@@ -58,6 +71,15 @@ struct HostConfiguration
 
 struct Host
 {
+    Host() = default;
+    Host(QString name, QString hostname, QString username, qint64 sshPort, qint64 etPort)
+        : name(std::move(name))
+        , hostname(std::move(hostname))
+        , username(std::move(username))
+        , sshPort(sshPort)
+        , etPort(etPort)
+    { }
+
     QUuid id = QUuid::createUuid();
     QString name;
     QString hostname;
@@ -79,6 +101,18 @@ struct ProjectIcon
 
 struct Project
 {
+    Project() = default;
+    Project(QString name, ProjectIcon icon, QUuid hostId, std::optional<QString> workingDirectory,
+            std::optional<QString> customCommand, std::optional<QString> themeName, bool isFavorite)
+        : name(std::move(name))
+        , icon(std::move(icon))
+        , hostId(hostId)
+        , workingDirectory(std::move(workingDirectory))
+        , customCommand(std::move(customCommand))
+        , themeName(std::move(themeName))
+        , isFavorite(isFavorite)
+    { }
+
     QUuid id = QUuid::createUuid();
     QString name;
     ProjectIcon icon;
@@ -96,6 +130,14 @@ struct Project
 // Identified by its id alone: no equality and no hash.
 struct Session
 {
+    Session() = default;
+    Session(QUuid projectId, QUuid hostId, QString etClientId, SessionStatus status)
+        : projectId(projectId)
+        , hostId(hostId)
+        , etClientId(std::move(etClientId))
+        , status(status)
+    { }
+
     QUuid id = QUuid::createUuid();
     QUuid projectId;
     QUuid hostId;

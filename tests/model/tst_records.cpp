@@ -15,33 +15,22 @@ namespace {
 
 Host fullHost()
 {
-    Host host { {}, "Studio", "studio.local", "ana", 22, 2022, {} };
+    Host host("Studio", "studio.local", "ana", 22, 2022);
     host.lastConnected = QDateTime::fromMSecsSinceEpoch(1700000000123, Qt::UTC);
     return host;
 }
 
 Project fullProject(const QUuid &hostId)
 {
-    return { {},
-             "API",
-             { IconType::api, "#FF8800" },
-             hostId,
-             "~/src/api",
-             "make run",
-             "Dracula",
-             true,
-             QDateTime::currentDateTimeUtc(),
-             QDateTime::currentDateTimeUtc().addDays(-1) };
+    Project project("API", { IconType::api, "#FF8800" }, hostId, "~/src/api", "make run", "Dracula",
+                    true);
+    project.lastAccessed = project.createdAt.addDays(-1);
+    return project;
 }
 
 Session session(const Project &project)
 {
-    Session s;
-    s.projectId = project.id;
-    s.hostId = project.hostId;
-    s.etClientId = "XyZ123";
-    s.status = SessionStatus::disconnected;
-    return s;
+    return Session(project.id, project.hostId, "XyZ123", SessionStatus::disconnected);
 }
 
 template<typename T> T roundTrip(const T &record)
@@ -66,7 +55,7 @@ private Q_SLOTS:
         bare.lastConnected.reset();
         QCOMPARE(roundTrip(host), host);
         QCOMPARE(roundTrip(bare), bare);
-        HostConfiguration configured { {}, "Pi", "pi.local", "pi", 22, "Nord" };
+        HostConfiguration configured("Pi", "pi.local", "pi", 22, "Nord");
         QCOMPARE(roundTrip(configured), configured);
         configured.themeName.reset();
         QCOMPARE(roundTrip(configured), configured);
@@ -86,8 +75,8 @@ private Q_SLOTS:
 
     void projectKeysAndOptionalForms()
     {
-        Project project { {}, "Docs", { IconType::docs, "#000000" }, QUuid::createUuid(), {}, {},
-                          {}, false };
+        const Project project("Docs", { IconType::docs, "#000000" }, QUuid::createUuid(), {}, {},
+                              {}, false);
         QJsonObject json = encode(project);
         QCOMPARE(json.keys(),
                  (QStringList { "createdAt", "hostId", "icon", "id", "isFavorite", "name" }));
@@ -154,7 +143,8 @@ private Q_SLOTS:
 
     void equalityAndHashCoverEveryField()
     {
-        HostConfiguration a { {}, "Pi", "pi.local", "pi", 22, {} };
+        HostConfiguration a("Pi", "pi.local", "pi", 22);
+        QVERIFY(!a.id.isNull() && a.id != HostConfiguration().id);
         HostConfiguration b = a;
         b.port = 2222;
         QVERIFY(a != b);
@@ -178,7 +168,7 @@ private Q_SLOTS:
         const Host host = fullHost();
         const Project project = fullProject(host.id);
         const QList<QJsonObject> seeds { encode(host), encode(project), encode(session(project)),
-                                         encode(HostConfiguration { {}, "n", "h", "u", 1, "t" }) };
+                                         encode(HostConfiguration("n", "h", "u", 1, "t")) };
         const QList<QJsonValue> replacements {
             QJsonValue::Null, 1.5,   -1,   "", "Web", true, QJsonArray { 1 },
             QJsonObject {},   1e300, "ZZZ"
