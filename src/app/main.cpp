@@ -2,15 +2,31 @@
 #include "control/controlservice.h"
 #include "platform/console.h"
 #include "platform/quitsignals.h"
+#include "ui/trayicon.h"
+#include "ui/uicontroller.h"
+#include "ui/windowmanager.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QQmlContext>
+#include <QQuickStyle>
+#include <QSystemTrayIcon>
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Quivra"));
-    QCoreApplication::setApplicationName(QStringLiteral("QuivraMac"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(QUIVRA_VERSION));
+    // Without a display the app runs as it otherwise would, only with no windows.
+    const bool noDisplay = qEnvironmentVariableIsEmpty("DISPLAY")
+        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#ifndef Q_OS_MACOS
+    if (noDisplay)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Quivra"));
+    QApplication::setApplicationName(QStringLiteral("QuivraMac"));
+    QApplication::setApplicationVersion(QStringLiteral(QUIVRA_VERSION));
+    // Closing the last window leaves the app in the menu bar.
+    QApplication::setQuitOnLastWindowClosed(false);
     platform::quitOnTerminationSignals(app);
 
     // Before the server manager exists: a second instance must not clean up the first one's
@@ -25,8 +41,34 @@ int main(int argc, char *argv[])
             QStringLiteral("No session bus: QuivraMac cannot be controlled from the command line"));
 
     QuivraMacApp quivra;
+    ServerManager &manager = quivra.serverManager();
     if (claim == ControlService::Claim::Claimed)
-        ControlService::publish(&quivra.serverManager());
-    quivra.serverManager();
+        ControlService::publish(&manager);
+
+    const bool headless = QGuiApplication::platformName() == QLatin1String("offscreen")
+        || QGuiApplication::platformName() == QLatin1String("minimal");
+    if (headless)
+        return app.exec();
+
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    UiController *controller = nullptr;
+    WindowManager windows([&](QQmlContext *context) {
+        context->setContextProperty(QStringLiteral("serverManager"), &manager);
+        context->setContextProperty(QStringLiteral("app"), &quivra);
+        context->setContextProperty(QStringLiteral("ui"), controller);
+    });
+    UiController ui(&manager, &windows);
+    controller = &ui;
+
+    std::unique_ptr<TrayIcon> tray;
+    if (QSystemTrayIcon::isSystemTrayAvailable()) {
+        tray = std::make_unique<TrayIcon>(&quivra, &windows);
+    } else {
+        console::line(QStringLiteral(
+            "No system tray on this desktop: the QuivraMac panel opens as a window instead"));
+        windows.openPanelAsWindow();
+    }
+    if (!quivra.hasCompletedOnboarding())
+        windows.open(QStringLiteral("onboarding"));
     return app.exec();
 }

@@ -1,0 +1,19 @@
+import QtQuick
+import QtQuick.Layouts
+
+// A labelled row of a settings section: the label left, the value right.
+RowLayout {
+    property string label
+    default property alias value: valueSlot.data
+    Layout.fillWidth: true
+    Text {
+        text: parent.label
+        font.pixelSize: 13
+        color: Theme.text
+    }
+    Item { Layout.fillWidth: true }
+    Row {
+        id: valueSlot
+        spacing: 6
+    }
+}

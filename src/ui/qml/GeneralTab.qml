@@ -1,0 +1,106 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// The automatic-start switch, port, address, running state, uptime, start and stop.
+ScrollView {
+    id: tab
+    contentWidth: availableWidth
+
+    component SectionBox: Rectangle {
+        default property alias rows: content.data
+        property string header
+        Layout.fillWidth: true
+        implicitHeight: content.implicitHeight + 24
+        radius: 8
+        color: Theme.card
+        ColumnLayout {
+            id: content
+            x: 12
+            y: 12
+            width: parent.width - 24
+            spacing: 10
+        }
+    }
+    component SectionHeader: Text {
+        font.pixelSize: 11
+        font.weight: Font.DemiBold
+        color: Theme.textSecondary
+    }
+
+    ColumnLayout {
+        width: tab.availableWidth - 40
+        x: 20
+        y: 16
+        spacing: 8
+
+        SectionHeader { text: "Server" }
+        SectionBox {
+            RowLayout {
+                Layout.fillWidth: true
+                Text { text: "Start server automatically"; font.pixelSize: 13; color: Theme.text }
+                Item { Layout.fillWidth: true }
+                Switch {
+                    objectName: "autoStartSwitch"
+                    Accessible.name: "Start server automatically"
+                    checked: ui.autoStartServer
+                    onToggled: ui.autoStartServer = checked
+                }
+            }
+            FormRow {
+                label: "Port"
+                Text { text: String(serverManager.port); font.pixelSize: 13; color: Theme.textSecondary }
+            }
+            FormRow {
+                label: "Local IP"
+                TextEdit {
+                    text: serverManager.localIP
+                    readOnly: true
+                    selectByMouse: true
+                    font.pixelSize: 13
+                    color: Theme.textSecondary
+                }
+            }
+        }
+
+        SectionHeader { text: "Status"; Layout.topMargin: 8 }
+        SectionBox {
+            FormRow {
+                label: "Status"
+                Rectangle {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 8
+                    height: 8
+                    radius: 4
+                    color: serverManager.isRunning ? Theme.green : Theme.gray
+                }
+                Text {
+                    objectName: "runningText"
+                    text: serverManager.isRunning ? "Running" : "Stopped"
+                    font.pixelSize: 13
+                    color: Theme.textSecondary
+                }
+            }
+            FormRow {
+                label: "Uptime"
+                visible: serverManager.isRunning
+                Text {
+                    objectName: "uptimeText"
+                    text: ui.uptimeText(serverManager.uptime)
+                    font.pixelSize: 13
+                    color: Theme.textSecondary
+                }
+            }
+            RowLayout {
+                Item { Layout.fillWidth: true }
+                Button {
+                    objectName: "startStopButton"
+                    text: serverManager.isRunning ? "Stop Server" : "Start Server"
+                    Accessible.name: text
+                    onClicked: serverManager.isRunning ? serverManager.stopServer()
+                                                       : serverManager.startServer()
+                }
+            }
+        }
+    }
+}

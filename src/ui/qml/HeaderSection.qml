@@ -1,0 +1,47 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// Status line with the server switch.
+RowLayout {
+    id: header
+    property bool isRunning
+    property int port
+    signal toggle()
+
+    spacing: 8
+    Rectangle {
+        objectName: "statusDot"
+        width: 8
+        height: 8
+        radius: 4
+        color: header.isRunning ? Theme.green : Theme.gray
+    }
+    ColumnLayout {
+        spacing: 1
+        Text {
+            text: "QuivraMac"
+            font.pixelSize: 13
+            font.weight: Font.Medium
+            color: Theme.text
+        }
+        Text {
+            objectName: "serverStatus"
+            text: header.isRunning ? "Port " + header.port : "Server off"
+            font.pixelSize: 11
+            color: Theme.textSecondary
+        }
+    }
+    Item { Layout.fillWidth: true }
+    Switch {
+        objectName: "serverSwitch"
+        Accessible.name: "Server"
+        checked: header.isRunning
+        scale: 0.8
+        // The switch never keeps its own position: it shows isRunning once that changes.
+        onToggled: {
+            header.toggle()
+            checked = Qt.binding(() => header.isRunning)
+        }
+    }
+}

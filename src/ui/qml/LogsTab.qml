@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// The server log, with Clear and Copy; new lines scroll into view.
+ColumnLayout {
+    id: tab
+    spacing: 12
+
+    RowLayout {
+        Layout.fillWidth: true
+        Layout.leftMargin: 16
+        Layout.rightMargin: 16
+        Layout.topMargin: 16
+        Text {
+            text: "Server Logs"
+            font.pixelSize: 15
+            font.weight: Font.DemiBold
+            color: Theme.text
+        }
+        Item { Layout.fillWidth: true }
+        AbstractButton {
+            objectName: "clearButton"
+            text: "Clear"
+            Accessible.name: text
+            contentItem: Text { text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
+            onClicked: serverManager.logs = ""
+        }
+        AbstractButton {
+            objectName: "copyButton"
+            text: "Copy"
+            Accessible.name: text
+            Layout.leftMargin: 12
+            contentItem: Text { text: "Copy"; font.pixelSize: 13; color: Theme.accentColor }
+            onClicked: ui.copyText(serverManager.logs)
+        }
+    }
+    Rectangle {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.leftMargin: 16
+        Layout.rightMargin: 16
+        Layout.bottomMargin: 16
+        radius: 6
+        color: Theme.textBackground
+        clip: true
+        Flickable {
+            id: scroller
+            objectName: "logsScroller"
+            anchors.fill: parent
+            contentWidth: width
+            contentHeight: logsEnd.implicitHeight
+            ScrollBar.vertical: ScrollBar { policy: ScrollBar.AlwaysOn }
+            TextEdit {
+                id: logsEnd
+                objectName: "logsEnd"
+                width: scroller.width
+                padding: 12
+                readOnly: true
+                selectByMouse: true
+                wrapMode: TextEdit.Wrap
+                font.family: Theme.monospace
+                font.pixelSize: 11
+                text: serverManager.logs === "" ? "No logs yet..." : serverManager.logs
+                color: serverManager.logs === "" ? Theme.textSecondary : Theme.text
+            }
+            Connections {
+                target: serverManager
+                function onLogsChanged() { scrollToEnd.restart() }
+            }
+            NumberAnimation {
+                id: scrollToEnd
+                target: scroller
+                property: "contentY"
+                to: Math.max(0, scroller.contentHeight - scroller.height)
+                duration: 200
+            }
+        }
+    }
+}

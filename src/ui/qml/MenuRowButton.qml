@@ -1,0 +1,48 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// One clickable row of the panel, highlighted while the pointer is over it.
+AbstractButton {
+    id: row
+    property string title
+    // A symbol name; "icon" is taken by the button type itself.
+    property string symbol
+    readonly property bool isHovered: hovered
+
+    text: title
+    Accessible.name: title
+    hoverEnabled: true
+    Layout.fillWidth: true
+    Layout.leftMargin: -8
+    Layout.rightMargin: -8
+    leftPadding: 8
+    rightPadding: 8
+    topPadding: 6
+    bottomPadding: 6
+
+    background: Rectangle {
+        radius: 4
+        color: row.isHovered ? Theme.withAlpha(Theme.text, 0.1) : "transparent"
+    }
+    contentItem: RowLayout {
+        spacing: 0
+        Item {
+            visible: row.symbol !== ""
+            Layout.preferredWidth: 16
+            implicitHeight: 13
+            SymbolImage {
+                anchors.verticalCenter: parent.verticalCenter
+                name: row.symbol
+                size: 13
+                color: Theme.textSecondary
+            }
+        }
+        Text {
+            text: row.title
+            font.pixelSize: 13
+            color: Theme.text
+        }
+        Item { Layout.fillWidth: true }
+    }
+}

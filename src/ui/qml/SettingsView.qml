@@ -1,0 +1,59 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// Two tabs, General and Logs; a new window always starts on General.
+Rectangle {
+    id: view
+    property alias selectedTab: tabs.currentIndex
+    implicitWidth: 500
+    implicitHeight: 400
+    color: Theme.background
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+        TabBar {
+            id: tabs
+            Layout.alignment: Qt.AlignHCenter
+            Layout.topMargin: 8
+            background: null
+            Repeater {
+                model: [{ title: "General", symbol: "gear" }, { title: "Logs", symbol: "doc.text" }]
+                delegate: TabButton {
+                    required property var modelData
+                    required property int index
+                    text: modelData.title
+                    Accessible.name: modelData.title
+                    width: 96
+                    contentItem: Column {
+                        spacing: 2
+                        SymbolImage {
+                            anchors.horizontalCenter: parent.horizontalCenter
+                            name: modelData.symbol
+                            size: 18
+                            color: tabs.currentIndex === index ? Theme.accentColor : Theme.textSecondary
+                        }
+                        Text {
+                            anchors.horizontalCenter: parent.horizontalCenter
+                            text: modelData.title
+                            font.pixelSize: 11
+                            color: tabs.currentIndex === index ? Theme.accentColor : Theme.textSecondary
+                        }
+                    }
+                    background: Rectangle {
+                        radius: 6
+                        color: tabs.currentIndex === index ? Theme.withAlpha(Theme.text, 0.08) : "transparent"
+                    }
+                }
+            }
+        }
+        StackLayout {
+            currentIndex: tabs.currentIndex
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            GeneralTab {}
+            LogsTab {}
+        }
+    }
+}

@@ -1,0 +1,33 @@
+pragma Singleton
+import QtQuick
+
+// Named colours with light and dark values that follow the system's colour scheme (read from
+// the palette, as Qt 6.4 has no scheme setting of its own), and the system colours the views use.
+QtObject {
+    readonly property SystemPalette palette: SystemPalette { colorGroup: SystemPalette.Active }
+    readonly property bool dark: palette.window.hslLightness < 0.5
+
+    readonly property color background: dark ? "#1e1e20" : "#ffffff"
+    readonly property color card: dark ? "#2c2c2e" : "#f2f2f7"
+    readonly property color text: dark ? "#f5f5f7" : "#1d1d1f"
+    readonly property color textSecondary: dark ? "#98989d" : "#6e6e73"
+    readonly property color accentColor: dark ? "#0a84ff" : "#007aff"
+
+    readonly property color green: dark ? "#30d158" : "#28cd41"
+    readonly property color gray: dark ? "#8e8e93" : "#8e8e93"
+    readonly property color orange: dark ? "#ff9f0a" : "#ff9500"
+    readonly property color red: dark ? "#ff453a" : "#ff3b30"
+    readonly property color yellow: dark ? "#ffd60a" : "#ffcc00"
+    readonly property color purple: dark ? "#bf5af2" : "#af52de"
+    readonly property color controlBackground: dark ? "#3a3a3c" : "#e9e9ed"
+    readonly property color textBackground: dark ? "#1c1c1e" : "#ffffff"
+    readonly property color separator: dark ? "#3d3d40" : "#dcdce0"
+
+    readonly property string monospace: "monospace"
+
+    function named(name) {
+        return { "Background": background, "Card": card, "Text": text,
+                 "TextSecondary": textSecondary, "AccentColor": accentColor }[name]
+    }
+    function withAlpha(c, alpha) { return Qt.rgba(c.r, c.g, c.b, alpha) }
+}

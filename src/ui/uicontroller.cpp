@@ -1,0 +1,74 @@
+#include "ui/uicontroller.h"
+
+#include "platform/userdefaults.h"
+#include "server/servermanager.h"
+#include "ui/formats.h"
+#include "ui/windowmanager.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QGuiApplication>
+
+namespace {
+const QString autoStartKey = QStringLiteral("autoStartServer");
+}
+
+UiController::UiController(ServerManager *serverManager, WindowManager *windows, QObject *parent)
+    : QObject(parent)
+    , m_serverManager(serverManager)
+    , m_windows(windows)
+{
+    userdefaults::registerDefaults({ { autoStartKey, true } });
+}
+
+bool UiController::autoStartServer() const
+{
+    return userdefaults::boolValue(autoStartKey);
+}
+
+void UiController::setAutoStartServer(bool on)
+{
+    if (on == autoStartServer())
+        return;
+    userdefaults::setValue(autoStartKey, on);
+    Q_EMIT autoStartServerChanged();
+}
+
+void UiController::toggleServer()
+{
+    if (!m_serverManager)
+        return;
+    if (m_serverManager->isRunning())
+        m_serverManager->stopServer();
+    else
+        m_serverManager->startServer();
+}
+
+void UiController::openWindow(const QString &id)
+{
+    if (m_windows)
+        m_windows->open(id);
+}
+
+void UiController::quit()
+{
+    // The normal quit path: aboutToQuit stops the server.
+    QCoreApplication::quit();
+}
+
+void UiController::copyText(const QString &text)
+{
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(text);
+}
+
+QString UiController::uptimeText(double seconds) const
+{
+    return formats::uptime(seconds);
+}
+
+QString UiController::countdownText(double seconds) const
+{
+    return formats::countdown(seconds);
+}

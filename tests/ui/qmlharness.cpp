@@ -1,0 +1,105 @@
+#include "qmlharness.h"
+
+#include "app/quivramacapp.h"
+#include "platform/userdefaults.h"
+#include "ui/symbolprovider.h"
+#include "ui/uicontroller.h"
+#include "ui/windowmanager.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQuickStyle>
+
+namespace testsupport {
+
+void prepareQuick()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+}
+
+QmlHarness::QmlHarness()
+{
+    userdefaults::setValue(QStringLiteral("autoStartServer"), false);
+    m_manager = std::make_unique<ServerManager>(environment(m_processes));
+    m_app = std::make_unique<QuivraMacApp>();
+    m_ui = std::make_unique<UiController>(m_manager.get(), nullptr);
+    WindowManager::registerTypes();
+    m_engine = std::make_unique<QQmlEngine>();
+    m_engine->addImportPath(QStringLiteral("qrc:/"));
+    m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    m_engine->rootContext()->setContextProperty(QStringLiteral("serverManager"), m_manager.get());
+    m_engine->rootContext()->setContextProperty(QStringLiteral("app"), m_app.get());
+    m_engine->rootContext()->setContextProperty(QStringLiteral("ui"), m_ui.get());
+}
+
+QmlHarness::~QmlHarness()
+{
+    m_window.reset();
+    if (m_manager->isRunning())
+        m_manager->stopServer();
+}
+
+QQuickItem *QmlHarness::show(const QString &viewType)
+{
+    m_view = nullptr;
+    m_window.reset();
+    m_window = std::make_unique<QQuickWindow>();
+    QQmlComponent component(m_engine.get());
+    component.setData("import QuivraMac.Ui\n" + viewType.toUtf8() + " {}\n", QUrl());
+    m_view = qobject_cast<QQuickItem *>(component.create());
+    if (!m_view) {
+        qWarning().noquote() << component.errorString();
+        return nullptr;
+    }
+    m_view->setParent(m_window.get());
+    m_view->setParentItem(m_window->contentItem());
+    QObject::connect(m_view, &QQuickItem::implicitHeightChanged, m_window.get(), [this] {
+        m_window->resize(int(m_view->implicitWidth()), int(m_view->implicitHeight()));
+        m_view->setSize(m_window->size());
+    });
+    m_window->resize(int(m_view->implicitWidth()), int(m_view->implicitHeight()));
+    m_view->setSize(m_window->size());
+    m_window->show();
+    return m_view;
+}
+
+QImage QmlHarness::grab()
+{
+    m_view->setSize(QSizeF(m_view->implicitWidth(), m_view->implicitHeight()));
+    m_window->resize(m_view->size().toSize());
+    return m_window->grabWindow();
+}
+
+void QmlHarness::setDark(bool dark)
+{
+    QPalette palette;
+    if (dark) {
+        palette.setColor(QPalette::Window, QColor("#1e1e20"));
+        palette.setColor(QPalette::WindowText, Qt::white);
+        palette.setColor(QPalette::Base, QColor("#1c1c1e"));
+        palette.setColor(QPalette::Text, Qt::white);
+        palette.setColor(QPalette::Button, QColor("#3a3a3c"));
+        palette.setColor(QPalette::ButtonText, Qt::white);
+    }
+    QGuiApplication::setPalette(palette);
+}
+
+QStringList QmlHarness::visibleTexts() const
+{
+    QStringList texts;
+    const QList<QQuickItem *> items = m_view->findChildren<QQuickItem *>();
+    for (QQuickItem *item : items) {
+        if (!item->isVisible() || !item->metaObject()->className())
+            continue;
+        const QString kind = QString::fromLatin1(item->metaObject()->className());
+        if (kind.startsWith(QLatin1String("QQuickText")))
+            texts.append(item->property("text").toString());
+    }
+    return texts;
+}
+
+} // namespace testsupport

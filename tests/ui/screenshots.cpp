@@ -1,0 +1,126 @@
+// Renders every screen and state of the panel, the settings window and the setup window to PNG
+// files, light and dark, and checks that each file was written at the size expected.
+#include "qmlharness.h"
+#include "ui/pairingcountdown.h"
+
+#include <QApplication>
+#include <QDir>
+
+using testsupport::QmlHarness;
+
+namespace {
+
+struct Shot
+{
+    QString name;
+    QString view;
+    std::function<void(QmlHarness &)> prepare;
+    QSize expected; // zero height: the view's own height
+};
+
+void tick(QmlHarness &h, int times)
+{
+    auto *countdown = h.find<PairingCountdown>("pairingCountdown");
+    for (int i = 0; countdown && i < times; ++i)
+        countdown->tick();
+}
+
+void setRunning(QmlHarness &h, bool running)
+{
+    if (running != h.manager().isRunning())
+        running ? h.manager().startServer() : h.manager().stopServer();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    testsupport::isolateHome();
+    testsupport::quietConsole();
+    testsupport::prepareQuick();
+    QApplication app(argc, argv);
+    if (argc != 2) {
+        qCritical("usage: quivra-screenshots OUTPUT_FOLDER");
+        return 2;
+    }
+    const QDir out(QString::fromLocal8Bit(argv[1]));
+    QDir().mkpath(out.path());
+
+    const QString longLog = [] {
+        QString log;
+        for (int i = 0; i < 60; ++i)
+            log += QStringLiteral("[etserver] session %1 attached from 192.168.1.%2\n")
+                       .arg(i)
+                       .arg(i + 10);
+        return log;
+    }();
+    const QList<Shot> shots {
+        { "panel-server-off",
+          "MenuBarView",
+          [](QmlHarness &h) { setRunning(h, false); },
+          { 280, 0 } },
+        { "panel-running", "MenuBarView", [](QmlHarness &h) { setRunning(h, true); }, { 280, 0 } },
+        { "panel-pairing",
+          "MenuBarView",
+          [](QmlHarness &h) {
+              setRunning(h, true);
+              h.manager().togglePairingMode();
+          },
+          { 280, 0 } },
+        { "panel-pairing-last-minute",
+          "MenuBarView",
+          [](QmlHarness &h) { tick(h, 241); },
+          { 280, 0 } },
+        { "settings-general-running",
+          "SettingsView",
+          [](QmlHarness &h) { setRunning(h, true); },
+          { 500, 400 } },
+        { "settings-general-stopped",
+          "SettingsView",
+          [](QmlHarness &h) { setRunning(h, false); },
+          { 500, 400 } },
+        { "settings-logs-empty",
+          "SettingsView",
+          [](QmlHarness &h) {
+              h.manager().setLogs({});
+              h.view()->setProperty("selectedTab", 1);
+          },
+          { 500, 400 } },
+        { "settings-logs-full",
+          "SettingsView",
+          [longLog](QmlHarness &h) {
+              h.manager().setLogs(longLog);
+              h.view()->setProperty("selectedTab", 1);
+          },
+          { 500, 400 } },
+        { "setup", "SetupView", [](QmlHarness &) {}, { 600, 500 } },
+    };
+
+    int failures = 0;
+    for (const bool dark : { false, true }) {
+        QmlHarness harness;
+        harness.setDark(dark);
+        QString shownView;
+        for (const Shot &shot : shots) {
+            // The pairing shots continue the panel as it is; everything else starts afresh.
+            if (shot.view != shownView || !shot.name.startsWith("panel-pairing-"))
+                harness.show(shot.view);
+            shownView = shot.view;
+            shot.prepare(harness);
+            QCoreApplication::processEvents();
+            const QImage image = harness.grab();
+            const QString file = out.filePath(shot.name + (dark ? "-dark" : "-light") + ".png");
+            const bool sizeOk = image.width() == shot.expected.width()
+                && (shot.expected.height() == 0 ? image.height() > 100
+                                                : image.height() == shot.expected.height());
+            if (!image.save(file) || QFileInfo(file).size() == 0 || !sizeOk) {
+                qCritical("%s: not written at the expected size (%dx%d)", qPrintable(file),
+                          image.width(), image.height());
+                ++failures;
+            } else {
+                qInfo("%s %dx%d", qPrintable(file), image.width(), image.height());
+            }
+        }
+    }
+    return failures == 0 ? 0 : 1;
+}

@@ -1,0 +1,96 @@
+#include "qmlharness.h"
+#include "ui/pairingcountdown.h"
+
+#include <QClipboard>
+
+// What each view shows for each state of the one ServerManager.
+class TestViews : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<testsupport::QmlHarness> m_harness;
+
+    testsupport::QmlHarness &h() { return *m_harness; }
+    QString text(const QString &objectName)
+    {
+        return h().find<QObject>(objectName)->property("text").toString();
+    }
+
+private Q_SLOTS:
+    void init() { m_harness = std::make_unique<testsupport::QmlHarness>(); }
+    void cleanup() { m_harness.reset(); }
+
+    void headerFollowsTheServer()
+    {
+        QVERIFY(h().show("MenuBarView"));
+        QCOMPARE(text("serverStatus"), "Server off");
+        QCOMPARE(h().find<QObject>("statusDot")->property("color").value<QColor>(),
+                 QColor("#8e8e93"));
+        QVERIFY(!h().find<QObject>("serverSwitch")->property("checked").toBool());
+        h().manager().startServer();
+        QCOMPARE(text("serverStatus"), "Port 2022");
+        QCOMPARE(h().find<QObject>("statusDot")->property("color").value<QColor>(),
+                 QColor("#28cd41"));
+        QVERIFY(h().find<QObject>("serverSwitch")->property("checked").toBool());
+        const QStringList titles = h().visibleTexts();
+        for (const char *title :
+             { "Pair New Device", "Setup Assistant...", "Settings...", "Quit QuivraMac" })
+            QVERIFY2(titles.contains(title), title);
+    }
+
+    void pairingShowsOneBoxPerCharacter()
+    {
+        QVERIFY(h().show("MenuBarView"));
+        h().manager().startServer();
+        h().manager().togglePairingMode();
+        QQuickItem *boxes = h().find<QQuickItem>("codeBoxes");
+        QVERIFY(boxes);
+        const auto shownCode = [&] {
+            QString code;
+            for (QQuickItem *box : boxes->childItems()) {
+                if (!box->childItems().isEmpty())
+                    code += box->childItems().constFirst()->property("text").toString();
+            }
+            return code;
+        };
+        QCOMPARE(shownCode(), h().manager().pairingToken());
+        QCOMPARE(text("countdownText"), "5:00");
+        auto *countdown = h().find<PairingCountdown>("pairingCountdown");
+        for (int i = 0; i < 241; ++i)
+            countdown->tick();
+        QCOMPARE(h().find<QObject>("countdownText")->property("color").value<QColor>(),
+                 QColor("#ff9500"));
+        // Leaving and re-entering pairing starts the countdown again.
+        h().manager().togglePairingMode();
+        QTRY_VERIFY(!h().find<QObject>("pairingCountdown"));
+        h().manager().togglePairingMode();
+        QTRY_COMPARE(text("countdownText"), "5:00");
+    }
+
+    void settingsShowStatusAndLogs()
+    {
+        QQuickItem *view = h().show("SettingsView");
+        QCOMPARE(text("runningText"), "Stopped");
+        QCOMPARE(text("startStopButton"), "Start Server");
+        QVERIFY(!h().find<QQuickItem>("uptimeText")->isVisible());
+        h().manager().startServer();
+        QCOMPARE(text("startStopButton"), "Stop Server");
+        QVERIFY(h().find<QQuickItem>("uptimeText")->isVisible());
+        QCOMPARE(text("uptimeText"), "0s");
+
+        view->setProperty("selectedTab", 1);
+        h().manager().setLogs({});
+        QCOMPARE(text("logsEnd"), "No logs yet...");
+        QMetaObject::invokeMethod(h().find<QObject>("copyButton"), "clicked");
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString());
+        h().manager().setLogs("[QuivraMac] one\n[etserver] two\n");
+        QCOMPARE(text("logsEnd"), "[QuivraMac] one\n[etserver] two\n");
+        QMetaObject::invokeMethod(h().find<QObject>("copyButton"), "clicked");
+        QCOMPARE(QGuiApplication::clipboard()->text(), h().manager().logs());
+        QMetaObject::invokeMethod(h().find<QObject>("clearButton"), "clicked");
+        QCOMPARE(h().manager().logs(), QString());
+    }
+};
+
+QUIVRA_QUICK_TEST_MAIN(TestViews)
+#include "tst_views.moc"
