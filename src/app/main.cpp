@@ -1,5 +1,7 @@
 #include "app/quivramacapp.h"
 #include "control/controlservice.h"
+#include "onboarding/onboardingflow.h"
+#include "onboarding/systemcheck.h"
 #include "platform/console.h"
 #include "platform/quitsignals.h"
 #include "ui/trayicon.h"
@@ -46,6 +48,7 @@ int main(int argc, char *argv[])
     if (claim == ControlService::Claim::Claimed)
         ControlService::publish(&manager);
 
+    UiController::applyLaunchAtLogin();
     const bool headless = QGuiApplication::platformName() == QLatin1String("offscreen")
         || QGuiApplication::platformName() == QLatin1String("minimal");
     if (headless)
@@ -57,10 +60,14 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     UiController *controller = nullptr;
+    OnboardingFlow onboarding(&manager, &quivra);
+    SystemCheck systemCheck(&manager);
     WindowManager windows([&](QQmlContext *context) {
         context->setContextProperty(QStringLiteral("serverManager"), &manager);
         context->setContextProperty(QStringLiteral("app"), &quivra);
         context->setContextProperty(QStringLiteral("ui"), controller);
+        context->setContextProperty(QStringLiteral("onboarding"), &onboarding);
+        context->setContextProperty(QStringLiteral("systemCheck"), &systemCheck);
     });
     UiController ui(&manager, &windows);
     controller = &ui;

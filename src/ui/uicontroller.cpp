@@ -1,5 +1,8 @@
 #include "ui/uicontroller.h"
 
+#include "platform/autostart.h"
+#include "platform/console.h"
+#include "platform/systeminfo.h"
 #include "platform/userdefaults.h"
 #include "server/servermanager.h"
 #include "ui/formats.h"
@@ -11,14 +14,15 @@
 
 namespace {
 const QString autoStartKey = QStringLiteral("autoStartServer");
-}
+const QString launchAtLoginKey = QStringLiteral("launchAtLogin");
+} // namespace
 
 UiController::UiController(ServerManager *serverManager, WindowManager *windows, QObject *parent)
     : QObject(parent)
     , m_serverManager(serverManager)
     , m_windows(windows)
 {
-    userdefaults::registerDefaults({ { autoStartKey, true } });
+    userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
 }
 
 bool UiController::autoStartServer() const
@@ -32,6 +36,33 @@ void UiController::setAutoStartServer(bool on)
         return;
     userdefaults::setValue(autoStartKey, on);
     Q_EMIT autoStartServerChanged();
+}
+
+QString UiController::userName() const
+{
+    return platform::userName();
+}
+
+bool UiController::launchAtLogin() const
+{
+    return userdefaults::value(launchAtLoginKey).value<bool>();
+}
+
+void UiController::setLaunchAtLogin(bool on)
+{
+    if (on == launchAtLogin())
+        return;
+    userdefaults::setValue(launchAtLoginKey, on);
+    applyLaunchAtLogin();
+    Q_EMIT launchAtLoginChanged();
+}
+
+void UiController::applyLaunchAtLogin()
+{
+    userdefaults::registerDefaults({ { launchAtLoginKey, true } });
+    QString error;
+    if (!platform::setLaunchAtLogin(userdefaults::boolValue(launchAtLoginKey), &error))
+        console::line(QStringLiteral("Launch at login not changed: ") + error);
 }
 
 void UiController::toggleServer()

@@ -14,12 +14,21 @@ class UiController : public QObject
     Q_OBJECT
     Q_PROPERTY(bool autoStartServer READ autoStartServer WRITE setAutoStartServer NOTIFY
                    autoStartServerChanged)
+    Q_PROPERTY(QString userName READ userName CONSTANT)
+    Q_PROPERTY(
+        bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
 
 public:
     UiController(ServerManager *serverManager, WindowManager *windows, QObject *parent = nullptr);
 
     bool autoStartServer() const;
     void setAutoStartServer(bool on);
+    QString userName() const;
+    bool launchAtLogin() const;
+    // Stored under "launchAtLogin" and applied at once.
+    void setLaunchAtLogin(bool on);
+    // At start-up: the login entry follows the stored preference (default on).
+    static void applyLaunchAtLogin();
 
     // Decides on the server's state at the moment of the call: stopped starts, running stops.
     Q_INVOKABLE void toggleServer();
@@ -31,6 +40,7 @@ public:
 
 Q_SIGNALS:
     void autoStartServerChanged();
+    void launchAtLoginChanged();
 
 private:
     QPointer<ServerManager> m_serverManager;

@@ -1,6 +1,9 @@
 #include "ui/windowmanager.h"
 
+#include "onboarding/onboardingflow.h"
+#include "onboarding/systemcheck.h"
 #include "ui/pairingcountdown.h"
+#include "ui/promptcard.h"
 #include "ui/symbolprovider.h"
 
 #include <QGuiApplication>
@@ -28,6 +31,10 @@ WindowManager::~WindowManager() = default;
 void WindowManager::registerTypes()
 {
     qmlRegisterType<PairingCountdown>("QuivraMac.Core", 1, 0, "PairingCountdown");
+    qmlRegisterType<PromptCard>("QuivraMac.Core", 1, 0, "PromptCard");
+    const QString owned = QStringLiteral("made by the application");
+    qmlRegisterUncreatableType<OnboardingFlow>("QuivraMac.Core", 1, 0, "OnboardingFlow", owned);
+    qmlRegisterUncreatableType<SystemCheck>("QuivraMac.Core", 1, 0, "SystemCheck", owned);
 }
 
 QQuickWindow *WindowManager::create(const QString &id)

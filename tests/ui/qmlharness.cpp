@@ -1,6 +1,8 @@
 #include "qmlharness.h"
 
 #include "app/quivramacapp.h"
+#include "onboarding/onboardingflow.h"
+#include "onboarding/systemcheck.h"
 #include "platform/userdefaults.h"
 #include "ui/symbolprovider.h"
 #include "ui/uicontroller.h"
@@ -24,8 +26,19 @@ void prepareQuick()
 QmlHarness::QmlHarness()
 {
     userdefaults::setValue(QStringLiteral("autoStartServer"), false);
-    m_manager = std::make_unique<ServerManager>(environment(m_processes));
+    ServerEnvironment env = environment(m_processes);
+    env.localIP = [] { return QStringLiteral("192.168.1.20"); };
+    m_manager = std::make_unique<ServerManager>(std::move(env));
     m_app = std::make_unique<QuivraMacApp>();
+    m_sshd.listen(QHostAddress::LocalHost);
+    m_systemCheck = std::make_unique<SystemCheck>(
+        m_manager.get(),
+        [this](QObject *context, std::chrono::milliseconds delay, std::function<void()> work) {
+            m_scheduledTotal += delay;
+            m_scheduled.append({ context, std::move(work) });
+        },
+        QStringLiteral("127.0.0.1"), m_sshd.serverPort());
+    m_onboarding = std::make_unique<OnboardingFlow>(m_manager.get(), m_app.get());
     m_ui = std::make_unique<UiController>(m_manager.get(), nullptr);
     WindowManager::registerTypes();
     m_engine = std::make_unique<QQmlEngine>();
@@ -34,6 +47,8 @@ QmlHarness::QmlHarness()
     m_engine->rootContext()->setContextProperty(QStringLiteral("serverManager"), m_manager.get());
     m_engine->rootContext()->setContextProperty(QStringLiteral("app"), m_app.get());
     m_engine->rootContext()->setContextProperty(QStringLiteral("ui"), m_ui.get());
+    m_engine->rootContext()->setContextProperty(QStringLiteral("onboarding"), m_onboarding.get());
+    m_engine->rootContext()->setContextProperty(QStringLiteral("systemCheck"), m_systemCheck.get());
 }
 
 QmlHarness::~QmlHarness()
@@ -65,6 +80,24 @@ QQuickItem *QmlHarness::show(const QString &viewType)
     m_view->setSize(m_window->size());
     m_window->show();
     return m_view;
+}
+
+bool QmlHarness::runOne()
+{
+    if (m_scheduled.isEmpty())
+        return false;
+    const auto [context, work] = m_scheduled.takeFirst();
+    if (context)
+        work();
+    return true;
+}
+
+int QmlHarness::runScheduled()
+{
+    int ran = 0;
+    while (runOne())
+        ++ran;
+    return ran;
 }
 
 QImage QmlHarness::grab()

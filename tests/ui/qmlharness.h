@@ -1,14 +1,18 @@
 #pragma once
 
+#include "onboarding/scheduler.h"
 #include "server/servermanager.h"
 #include "testsupport.h"
 
+#include <QApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QApplication>
 #include <QQuickWindow>
+#include <QTcpServer>
 
+class OnboardingFlow;
 class QuivraMacApp;
+class SystemCheck;
 class UiController;
 
 namespace testsupport {
@@ -22,6 +26,16 @@ public:
     ~QmlHarness();
 
     ServerManager &manager() { return *m_manager; }
+    OnboardingFlow &onboarding() { return *m_onboarding; }
+    SystemCheck &systemCheck() { return *m_systemCheck; }
+    QuivraMacApp &app() { return *m_app; }
+    // The system check's pauses wait here until run; each run may schedule more.
+    int runScheduled();
+    // Runs the earliest waiting pause only; false when none waits.
+    bool runOne();
+    std::chrono::milliseconds scheduledTotal() const { return m_scheduledTotal; }
+    // Its SSH probe asks a listener of the harness, open unless closed.
+    void closeSshDaemon() { m_sshd.close(); }
     // Loads one view type of QuivraMac.Ui ("MenuBarView", "SettingsView", "SetupView") into a
     // window of its implicit size and shows it.
     QQuickItem *show(const QString &viewType);
@@ -41,6 +55,11 @@ private:
     std::unique_ptr<ServerManager> m_manager;
     std::unique_ptr<QuivraMacApp> m_app;
     std::unique_ptr<UiController> m_ui;
+    QTcpServer m_sshd;
+    QList<std::pair<QPointer<QObject>, std::function<void()>>> m_scheduled;
+    std::chrono::milliseconds m_scheduledTotal { 0 };
+    std::unique_ptr<SystemCheck> m_systemCheck;
+    std::unique_ptr<OnboardingFlow> m_onboarding;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QQuickItem *m_view = nullptr;

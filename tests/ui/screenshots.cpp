@@ -1,10 +1,13 @@
 // Renders every screen and state of the panel, the settings window and the setup window to PNG
 // files, light and dark, and checks that each file was written at the size expected.
+#include "onboarding/onboardingflow.h"
+#include "onboarding/systemcheck.h"
 #include "qmlharness.h"
 #include "ui/pairingcountdown.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QTest>
 
 using testsupport::QmlHarness;
 
@@ -29,6 +32,99 @@ void setRunning(QmlHarness &h, bool running)
 {
     if (running != h.manager().isRunning())
         running ? h.manager().startServer() : h.manager().stopServer();
+}
+
+bool save(const QImage &image, const QString &file, QSize expected)
+{
+    if (image.size() != expected || !image.save(file) || QFileInfo(file).size() == 0) {
+        qCritical("%s: not written at %dx%d (%dx%d)", qPrintable(file), expected.width(),
+                  expected.height(), image.width(), image.height());
+        return false;
+    }
+    qInfo("%s %dx%d", qPrintable(file), image.width(), image.height());
+    return true;
+}
+
+// Lets the step transition and the springs finish: these are pictures, not tests.
+void settle(QmlHarness &h)
+{
+    QObject *stack = h.find<QObject>("onboardingStack");
+    QTest::qWaitFor([stack] { return !stack->property("busy").toBool(); }, 3000);
+    QTest::qWait(600);
+}
+
+void runChecksUntil(QmlHarness &h, const std::function<bool()> &done)
+{
+    QTest::qWaitFor(
+        [&] {
+            h.runScheduled();
+            return done();
+        },
+        5000);
+}
+
+int onboardingShots(const QDir &out)
+{
+    using Flow = OnboardingFlow;
+    const QString ssh = QDir::homePath() + "/.ssh";
+    int failures = 0;
+    for (const bool dark : { false, true }) {
+        QmlHarness h;
+        h.setDark(dark);
+        h.manager().startServer();
+        QDir(ssh).removeRecursively();
+        h.onboarding().appear();
+        h.show("OnboardingView");
+        Flow &flow = h.onboarding();
+        SystemCheck &check = h.systemCheck();
+        const QList<std::pair<QString, std::function<void()>>> shots {
+            { "setup-welcome", [] {} },
+            { "setup-explanation", [&] { flow.welcomeContinue(); } },
+            { "setup-check-checking", [&] { flow.explanationContinue(); } },
+            { "setup-check-failed",
+              [&] { runChecksUntil(h, [&] { return check.failedIndex() >= 0; }); } },
+            { "setup-check-passed",
+              [&] {
+                  QDir().mkpath(ssh);
+                  QFile::setPermissions(ssh,
+                                        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+                  check.start();
+                  runChecksUntil(h, [&] { return check.allPassed(); });
+              } },
+            { "setup-pairing-waiting", [&] { flow.startPairing(); } },
+            { "setup-pairing-last-minute",
+              [&] {
+                  auto *countdown = h.find<PairingCountdown>("onboardingCountdown");
+                  for (int i = 0; countdown && i < 241; ++i)
+                      countdown->tick();
+              } },
+            { "setup-pairing-connecting",
+              [&] { flow.showPairingState(Flow::DeviceConnecting, "Ana's iPhone"); } },
+            { "setup-error-wrong-code",
+              [&] { flow.showPairingState(Flow::Error, {}, Flow::WrongCode); } },
+            { "setup-error-timeout",
+              [&] { flow.showPairingState(Flow::Error, {}, Flow::Timeout); } },
+            { "setup-error-connection-failed",
+              [&] { flow.showPairingState(Flow::Error, {}, Flow::ConnectionFailed); } },
+            { "setup-error-network-mismatch",
+              [&] {
+                  flow.showPairingState(Flow::Error, {}, Flow::NetworkMismatch, "Home Wi-Fi");
+              } },
+            { "setup-success",
+              [&] {
+                  h.manager().pairingListener()->onPairingSuccess(
+                      { "ssh-ed25519 AAAA", "Ana's iPhone" });
+              } },
+        };
+        for (const auto &[name, prepare] : shots) {
+            prepare();
+            settle(h);
+            if (!save(h.grab(), out.filePath(name + (dark ? "-dark" : "-light") + ".png"),
+                      { 600, 500 }))
+                ++failures;
+        }
+    }
+    return failures;
 }
 
 } // namespace
@@ -93,7 +189,7 @@ int main(int argc, char *argv[])
               h.view()->setProperty("selectedTab", 1);
           },
           { 500, 400 } },
-        { "setup", "SetupView", [](QmlHarness &) {}, { 600, 500 } },
+
     };
 
     int failures = 0;
@@ -122,5 +218,6 @@ int main(int argc, char *argv[])
             }
         }
     }
+    failures += onboardingShots(out);
     return failures == 0 ? 0 : 1;
 }

@@ -2,17 +2,21 @@ import QtQuick
 import QtQuick.Window
 
 Window {
+    id: window
     title: "Setup"
     flags: Qt.Window | Qt.WindowTitleHint | Qt.WindowCloseButtonHint
-    width: content.implicitWidth
-    height: content.implicitHeight
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
+    width: 600
+    height: 500
+    minimumWidth: 600
+    maximumWidth: 600
+    minimumHeight: 500
+    maximumHeight: 500
     color: Theme.background
-    SetupView {
-        id: content
-        anchors.fill: parent
+    // Each showing starts at the welcome screen.
+    onVisibleChanged: if (visible) onboarding.appear()
+    Connections {
+        target: onboarding
+        function onDismiss() { window.close() }
     }
+    OnboardingView { anchors.fill: parent }
 }

@@ -1,0 +1,112 @@
+#include "onboarding/onboardingflow.h"
+
+#include "app/quivramacapp.h"
+#include "server/servermanager.h"
+
+OnboardingFlow::OnboardingFlow(ServerManager *serverManager, QuivraMacApp *app, QObject *parent)
+    : QObject(parent)
+    , m_serverManager(serverManager)
+    , m_app(app)
+{
+    if (serverManager)
+        connect(serverManager, &ServerManager::lastPairedDeviceChanged, this,
+                &OnboardingFlow::onPairedDeviceChanged);
+}
+
+QString OnboardingFlow::title(ErrorKind kind)
+{
+    switch (kind) {
+    case WrongCode:
+        return QStringLiteral("Wrong code");
+    case Timeout:
+        return QStringLiteral("Connection timed out");
+    case ConnectionFailed:
+        return QStringLiteral("Connection failed");
+    case NetworkMismatch:
+        return QStringLiteral("Network mismatch");
+    }
+    return {};
+}
+
+QString OnboardingFlow::message(ErrorKind kind, const QString &macNetwork)
+{
+    switch (kind) {
+    case NetworkMismatch:
+        return QStringLiteral(
+                   "Your Mac is on \"%1\". Make sure your iPhone is on the same network.")
+            .arg(macNetwork);
+    case WrongCode:
+        return QStringLiteral("The code entered on your iPhone didn't match.");
+    case Timeout:
+        return QStringLiteral("No device connected within the time limit.");
+    case ConnectionFailed:
+        return QStringLiteral("Your iPhone couldn't reach this Mac.");
+    }
+    return {};
+}
+
+void OnboardingFlow::appear()
+{
+    setStep(Welcome);
+}
+
+void OnboardingFlow::setStep(Step step)
+{
+    m_step = step;
+    ++m_serial;
+    Q_EMIT stepChanged();
+}
+
+void OnboardingFlow::startPairing()
+{
+    if (!m_serverManager)
+        return;
+    // Every switch to pairing issues a fresh code with its own five minutes.
+    if (m_serverManager->isPairing())
+        m_serverManager->renewPairingToken();
+    else
+        m_serverManager->togglePairingMode();
+    waitForDevice();
+}
+
+void OnboardingFlow::renewCode()
+{
+    if (!m_serverManager)
+        return;
+    m_serverManager->renewPairingToken();
+    waitForDevice();
+}
+
+void OnboardingFlow::waitForDevice()
+{
+    m_pairingKind = WaitingForDevice;
+    m_code = m_serverManager->pairingToken();
+    m_expiresIn = codeLifetime;
+    setStep(Pairing);
+}
+
+void OnboardingFlow::showPairingState(PairingKind kind, const QString &deviceName, ErrorKind error,
+                                      const QString &macNetwork)
+{
+    m_pairingKind = kind;
+    m_deviceName = deviceName;
+    m_errorKind = error;
+    m_macNetwork = macNetwork;
+    setStep(Pairing);
+}
+
+void OnboardingFlow::onPairedDeviceChanged()
+{
+    const QString device = m_serverManager ? m_serverManager->lastPairedDevice() : QString();
+    if (m_step != Pairing || device.isEmpty())
+        return;
+    m_deviceName = device;
+    setStep(Success);
+}
+
+void OnboardingFlow::finish()
+{
+    if (m_app)
+        m_app->setHasCompletedOnboarding(true);
+    Q_EMIT dismiss();
+}

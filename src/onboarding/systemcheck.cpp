@@ -1,0 +1,210 @@
+#include "onboarding/systemcheck.h"
+
+#include "diagnostics/sshprobe.h"
+#include "onboarding/prompts.h"
+#include "server/servermanager.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+SystemCheck::SystemCheck(ServerManager *serverManager, Scheduler scheduler, QString sshHost,
+                         quint16 sshPort, QObject *parent)
+    : QObject(parent)
+    , m_serverManager(serverManager)
+    , m_schedule(std::move(scheduler))
+    , m_sshHost(std::move(sshHost))
+    , m_sshPort(sshPort)
+{ }
+
+QVariantList SystemCheck::checksForView() const
+{
+    QVariantList list;
+    for (const Item &item : m_items) {
+        list.append(QVariantMap { { QStringLiteral("name"), item.name },
+                                  { QStringLiteral("successMessage"), item.successMessage },
+                                  { QStringLiteral("state"), int(item.state) } });
+    }
+    return list;
+}
+
+QString SystemCheck::failedMessage() const
+{
+    return m_failed >= 0 ? m_items.at(m_failed).message : QString();
+}
+
+QString SystemCheck::failedPrompt() const
+{
+    return m_failed >= 0 ? m_items.at(m_failed).prompt : QString();
+}
+
+QString SystemCheck::title() const
+{
+    if (m_allPassed)
+        return QStringLiteral("Looking good!");
+    return m_failed >= 0 ? QStringLiteral("Almost there...")
+                         : QStringLiteral("Checking your Mac...");
+}
+
+void SystemCheck::appear()
+{
+    const int port = m_serverManager ? m_serverManager->port() : 2022;
+    const QString address = m_serverManager ? m_serverManager->localIP() : QString();
+    m_items = {
+        { QStringLiteral("ssh_daemon"), QStringLiteral("Remote Login"),
+          QStringLiteral("Your Mac accepts secure connections") },
+        { QStringLiteral("ssh_dir"), QStringLiteral("SSH Keys"),
+          QStringLiteral("Ready to authenticate") },
+        { QStringLiteral("etserver"), QStringLiteral("Quivra Server"),
+          QStringLiteral("Running on port %1").arg(port) },
+        { QStringLiteral("network"), QStringLiteral("Network"),
+          QStringLiteral("Connected at ") + address },
+    };
+    start();
+}
+
+void SystemCheck::start()
+{
+    ++m_run;
+    m_failed = -1;
+    m_current = 0;
+    if (m_allPassed) {
+        m_allPassed = false;
+        Q_EMIT allPassedChanged();
+    }
+    for (Item &item : m_items) {
+        item.state = Pending;
+        item.message.clear();
+        item.prompt.clear();
+    }
+    Q_EMIT checksChanged();
+    Q_EMIT titleChanged();
+    runNext();
+}
+
+void SystemCheck::runNext()
+{
+    const quint64 run = m_run;
+    if (m_current >= m_items.size()) {
+        m_schedule(this, celebrationDelay, [this, run] {
+            if (run != m_run)
+                return;
+            m_allPassed = true;
+            Q_EMIT allPassedChanged();
+            Q_EMIT titleChanged();
+        });
+        return;
+    }
+    m_items[m_current].state = Checking;
+    Q_EMIT checksChanged();
+    const QString id = m_items.at(m_current).id;
+    m_schedule(this, beforeEachCheck, [this, run, id] {
+        if (run == m_run)
+            runCheck(id, [this, run](const Item &result) { store(run, result); });
+    });
+}
+
+void SystemCheck::store(quint64 run, const Item &result)
+{
+    if (run != m_run || m_current >= m_items.size())
+        return;
+    Item &item = m_items[m_current];
+    item.state = result.state;
+    item.message = result.message;
+    item.prompt = result.prompt;
+    if (item.state == Passed) {
+        ++m_current;
+        Q_EMIT checksChanged();
+        m_schedule(this, checkDelay, [this, run] {
+            if (run == m_run)
+                runNext();
+        });
+    } else if (item.state == Failed) {
+        m_failed = m_current;
+        Q_EMIT checksChanged();
+        Q_EMIT titleChanged();
+    }
+}
+
+void SystemCheck::runCheck(const QString &id, std::function<void(Item)> done)
+{
+    if (id == QLatin1String("ssh_daemon"))
+        checkSsh(std::move(done));
+    else if (id == QLatin1String("ssh_dir"))
+        done(checkSshDirectory());
+    else if (id == QLatin1String("etserver"))
+        checkServer(std::move(done));
+    else if (id == QLatin1String("network"))
+        done(checkNetwork());
+    else
+        done({ {}, {}, {}, Passed });
+}
+
+namespace {
+SystemCheck::Item failed(const QString &message, const QString &prompt)
+{
+    return { {}, {}, {}, SystemCheck::Failed, message, prompt };
+}
+const SystemCheck::Item passed { {}, {}, {}, SystemCheck::Passed };
+} // namespace
+
+void SystemCheck::checkSsh(std::function<void(Item)> done)
+{
+    // A probe of its own: "Try Again" after enabling the daemon must not get an old answer.
+    auto *probe = new SshProbe(m_sshHost, m_sshPort, this);
+    probe->probe(this, [probe, done = std::move(done)](bool accepting) {
+        probe->deleteLater();
+        done(accepting
+                 ? passed
+                 : failed(QStringLiteral("Remote Login is disabled"), prompts::remoteLogin()));
+    });
+}
+
+SystemCheck::Item SystemCheck::checkSshDirectory() const
+{
+    const QString path = QDir::homePath() + QStringLiteral("/.ssh");
+    if (!QFileInfo(path).isDir())
+        return failed(QStringLiteral("~/.ssh directory doesn't exist"),
+                      prompts::missingSshDirectory());
+    struct stat info
+    {
+    };
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return passed; // unreadable permissions count as correct
+    const uint mode = info.st_mode & 07777;
+    if (mode == 0700)
+        return passed;
+    return failed(QStringLiteral("~/.ssh has wrong permissions"),
+                  prompts::wrongPermissions(QString::number(mode, 8)));
+}
+
+void SystemCheck::checkServer(std::function<void(Item)> done)
+{
+    const auto verdict = [this](const std::function<void(Item)> &report) {
+        if (!m_serverManager || m_serverManager->isRunning())
+            return report(m_serverManager ? passed
+                                          : failed(QStringLiteral("Server couldn't start"),
+                                                   prompts::serverCrash(-1, {})));
+        const QString logs = m_serverManager->logs();
+        const int port = m_serverManager->port();
+        if (logs.contains(QLatin1String("Address already in use"))
+            || logs.contains(QLatin1String("EADDRINUSE")))
+            return report(
+                failed(QStringLiteral("Port %1 is in use").arg(port), prompts::portInUse(port)));
+        report(failed(QStringLiteral("Server couldn't start"), prompts::serverCrash(-1, logs)));
+    };
+    if (m_serverManager && !m_serverManager->isRunning()) {
+        m_serverManager->startServer();
+        m_schedule(this, afterStartingServer, [verdict, done] { verdict(done); });
+        return;
+    }
+    verdict(done);
+}
+
+SystemCheck::Item SystemCheck::checkNetwork() const
+{
+    if (!m_serverManager || m_serverManager->localIP() == QLatin1String("127.0.0.1"))
+        return failed(QStringLiteral("No network connection"), prompts::noNetwork());
+    return passed;
+}

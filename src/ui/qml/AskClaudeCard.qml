@@ -1,0 +1,72 @@
+import QtQuick
+import QtQuick.Controls
+import QuivraMac.Core
+
+// A ready-written help request: its first lines, and a button that copies all of it.
+Rectangle {
+    id: card
+    property alias prompt: model.prompt
+    signal copied()
+
+    implicitWidth: 460
+    implicitHeight: content.implicitHeight + 32
+    radius: 12
+    color: "transparent"
+    border.width: 1
+    border.color: Theme.withAlpha(Theme.purple, 0.2)
+
+    PromptCard {
+        id: model
+        onCopiedToClipboard: card.copied()
+    }
+    Column {
+        id: content
+        x: 16
+        y: 16
+        width: parent.width - 32
+        spacing: 12
+        Row {
+            spacing: 6
+            SymbolImage { name: "sparkles"; size: 14; color: Theme.purple }
+            Text { text: "Ask Claude Code"; font.pixelSize: 14; font.weight: Font.DemiBold; color: Theme.text }
+        }
+        Text {
+            objectName: "promptPreview"
+            width: parent.width
+            text: model.preview
+            wrapMode: Text.Wrap
+            font.family: Theme.monospace
+            font.pixelSize: 13
+            color: Theme.textSecondary
+        }
+        AbstractButton {
+            objectName: "copyPromptButton"
+            width: parent.width
+            text: model.copied ? "Copied!" : "Copy to Clipboard"
+            Accessible.name: text
+            implicitHeight: 38
+            onClicked: model.copy()
+            background: Rectangle {
+                radius: 8
+                color: Theme.withAlpha(model.copied ? Theme.green : Theme.accentColor, 0.1)
+            }
+            contentItem: Row {
+                spacing: 6
+                leftPadding: (parent.width - implicitWidth) / 2
+                SymbolImage {
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: model.copied ? "checkmark" : "doc.on.doc"
+                    size: 12
+                    color: model.copied ? Theme.green : Theme.accentColor
+                }
+                Text {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: model.copied ? "Copied!" : "Copy to Clipboard"
+                    font.pixelSize: 13
+                    font.weight: Font.Medium
+                    color: model.copied ? Theme.green : Theme.accentColor
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,113 @@
+import QtQuick
+import QtQuick.Layouts
+
+Item {
+    id: step
+    signal continueClicked()
+    signal backClicked()
+
+    component DeviceIcon: Column {
+        property string systemName
+        property string label
+        spacing: 8
+        Rectangle {
+            width: 80
+            height: 80
+            radius: 16
+            color: Theme.card
+            SymbolImage { anchors.centerIn: parent; name: systemName; size: 48; color: Theme.text }
+        }
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: label
+            font.pixelSize: 13
+            font.weight: Font.Medium
+            color: Theme.text
+        }
+    }
+    // Four dots pulsing in a running wave toward the chevron.
+    component ConnectionArrow: Row {
+        spacing: 6
+        Repeater {
+            model: 4
+            Rectangle {
+                required property int index
+                anchors.verticalCenter: parent.verticalCenter
+                width: 6
+                height: 6
+                radius: 3
+                color: Theme.accentColor
+                SequentialAnimation on opacity {
+                    loops: Animation.Infinite
+                    PauseAnimation { duration: 150 * index }
+                    SequentialAnimation {
+                        loops: Animation.Infinite
+                        NumberAnimation { from: 1; to: 0.3; duration: 400; easing.type: Easing.InOutQuad }
+                        NumberAnimation { from: 0.3; to: 1; duration: 400; easing.type: Easing.InOutQuad }
+                    }
+                }
+            }
+        }
+        SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "chevron.right"; size: 12; color: Theme.accentColor }
+    }
+    component FeatureBullet: Row {
+        property string icon
+        property string text
+        spacing: 12
+        Item {
+            width: 24
+            height: 20
+            SymbolImage { anchors.centerIn: parent; name: icon; size: 14; color: Theme.accentColor }
+        }
+        Text { text: parent.text; font.pixelSize: 15; color: Theme.text }
+    }
+
+    Shortcut {
+        sequences: ["Return", "Enter"]
+        enabled: step.visible
+        onActivated: step.continueClicked()
+    }
+    Shortcut {
+        sequence: "Escape"
+        enabled: step.visible
+        onActivated: step.backClicked()
+    }
+    ColumnLayout {
+        anchors.centerIn: parent
+        spacing: 20
+        Row {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: 20
+            DeviceIcon { systemName: "iphone"; label: "iPhone" }
+            ConnectionArrow { height: 80 }
+            DeviceIcon { systemName: "desktopcomputer"; label: "Mac" }
+        }
+        Text {
+            Layout.alignment: Qt.AlignHCenter
+            text: "A bridge that never drops."
+            font.pixelSize: 24
+            font.weight: Font.DemiBold
+            color: Theme.text
+        }
+        Text {
+            Layout.alignment: Qt.AlignHCenter
+            horizontalAlignment: Text.AlignHCenter
+            text: "QuivraMac creates a resilient connection\nbetween your iPhone and this Mac."
+            font.pixelSize: 15
+            color: Theme.textSecondary
+        }
+        Column {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: 10
+            FeatureBullet { icon: "wifi"; text: "Survives WiFi switches and sleep" }
+            FeatureBullet { icon: "arrow.clockwise"; text: "Reconnects automatically" }
+            FeatureBullet { icon: "menubar.rectangle"; text: "Runs invisibly in the menu bar" }
+        }
+        Row {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: 12
+            OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
+            OnboardingButton { title: "Continue"; onClicked: step.continueClicked() }
+        }
+    }
+}

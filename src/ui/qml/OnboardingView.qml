@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Controls
+import QuivraMac.Core
+
+// The setup window's root: one screen per step, each moving in from the trailing edge while
+// fading in and out to the leading edge.
+Rectangle {
+    id: view
+    implicitWidth: 600
+    implicitHeight: 500
+    color: Theme.background
+
+    readonly property var screens: [welcome, explanation, check, pairing, success]
+    Component { id: welcome; WelcomeStep { onContinueClicked: onboarding.welcomeContinue() } }
+    Component { id: explanation; ExplanationStep { onContinueClicked: onboarding.explanationContinue(); onBackClicked: onboarding.explanationBack() } }
+    Component { id: check; SystemCheckStep { onAllPassedContinue: onboarding.startPairing(); onBackClicked: onboarding.systemCheckBack() } }
+    Component { id: pairing; PairingStep { onBackClicked: onboarding.pairingBack(); onRetry: onboarding.renewCode() } }
+    Component { id: success; SuccessStep { onDone: onboarding.finish() } }
+
+    StackView {
+        id: stack
+        objectName: "onboardingStack"
+        anchors.fill: parent
+        initialItem: view.screens[onboarding.step]
+        replaceEnter: Transition {
+            ParallelAnimation {
+                NumberAnimation { property: "x"; from: stack.width * 0.3; to: 0; duration: 300; easing.type: Easing.InOutQuad }
+                NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 300; easing.type: Easing.InOutQuad }
+            }
+        }
+        replaceExit: Transition {
+            ParallelAnimation {
+                NumberAnimation { property: "x"; from: 0; to: -stack.width * 0.3; duration: 300; easing.type: Easing.InOutQuad }
+                NumberAnimation { property: "opacity"; from: 1; to: 0; duration: 300; easing.type: Easing.InOutQuad }
+            }
+        }
+    }
+    Connections {
+        target: onboarding
+        // Keyed on every step set, so a new code also brings a fresh screen.
+        function onStepChanged() { stack.replace(null, view.screens[onboarding.step]) }
+    }
+}

@@ -1,0 +1,184 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QuivraMac.Core
+
+// The code to type on the phone with its countdown, a phone that is connecting, or a failure.
+Item {
+    id: step
+    signal backClicked()
+    signal retry()
+
+    component InstructionStep: Row {
+        property int number
+        property string text
+        spacing: 12
+        Rectangle {
+            width: 24
+            height: 24
+            radius: 12
+            color: Theme.card
+            Text { anchors.centerIn: parent; text: number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
+        }
+        Text { anchors.verticalCenter: parent.verticalCenter; text: parent.text; font.pixelSize: 15; color: Theme.text }
+    }
+    component WaitingIndicator: Row {
+        spacing: 4
+        Repeater {
+            model: 3
+            Rectangle {
+                required property int index
+                width: 8
+                height: 8
+                radius: 4
+                color: Theme.accentColor
+                SequentialAnimation on opacity {
+                    loops: Animation.Infinite
+                    PauseAnimation { duration: 200 * index }
+                    SequentialAnimation {
+                        loops: Animation.Infinite
+                        NumberAnimation { from: 1; to: 0.3; duration: 600; easing.type: Easing.InOutQuad }
+                        NumberAnimation { from: 0.3; to: 1; duration: 600; easing.type: Easing.InOutQuad }
+                    }
+                }
+            }
+        }
+    }
+
+    // A new waiting state always gets its full time: this page is made anew for each one.
+    PairingCountdown {
+        id: countdown
+        objectName: "onboardingCountdown"
+        onStopPairing: step.retry()
+    }
+    Component.onCompleted: if (onboarding.pairingKind === OnboardingFlow.WaitingForDevice) countdown.start()
+    Component.onDestruction: countdown.stop()
+    Shortcut {
+        sequence: "Escape"
+        enabled: step.visible
+        onActivated: step.backClicked()
+    }
+
+    ColumnLayout {
+        anchors.centerIn: parent
+        width: parent.width - 96
+        visible: onboarding.pairingKind === OnboardingFlow.WaitingForDevice
+        spacing: 20
+        RowLayout {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: 48
+            Column {
+                Layout.alignment: Qt.AlignTop
+                spacing: 12
+                Rectangle {
+                    width: 80
+                    height: 100
+                    radius: 12
+                    color: Theme.card
+                    SymbolImage { anchors.centerIn: parent; name: "iphone"; size: 48; color: Theme.text }
+                }
+                WaitingIndicator { anchors.horizontalCenter: parent.horizontalCenter }
+            }
+            Column {
+                Layout.alignment: Qt.AlignTop
+                spacing: 16
+                InstructionStep { number: 1; text: "Open Quivra on your iPhone" }
+                InstructionStep { number: 2; text: "Tap \"Add Mac\"" }
+                InstructionStep { number: 3; text: "Enter this code:" }
+                Row {
+                    objectName: "onboardingCode"
+                    spacing: 12
+                    Repeater {
+                        model: onboarding.code.length
+                        Rectangle {
+                            required property int index
+                            width: 48
+                            height: 56
+                            radius: 8
+                            color: Theme.card
+                            Text {
+                                anchors.centerIn: parent
+                                text: onboarding.code.charAt(index)
+                                font.pixelSize: 32
+                                font.weight: Font.Medium
+                                font.family: Theme.monospace
+                                color: Theme.text
+                            }
+                        }
+                    }
+                }
+            }
+        }
+        Text {
+            objectName: "expiresText"
+            Layout.alignment: Qt.AlignHCenter
+            text: "Expires in " + countdown.text
+            font.pixelSize: 13
+            font.weight: countdown.urgent ? Font.Medium : Font.Normal
+            color: countdown.urgent ? Theme.orange : Theme.textSecondary
+        }
+        Divider {}
+        Row {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: 6
+            Text { text: "Having trouble?"; font.pixelSize: 13; color: Theme.textSecondary }
+            AbstractButton {
+                text: "Try manual setup"
+                Accessible.name: text
+                onClicked: manual.open()
+                contentItem: Text { text: "Try manual setup"; font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
+            }
+        }
+    }
+
+    Column {
+        anchors.centerIn: parent
+        visible: onboarding.pairingKind === OnboardingFlow.DeviceConnecting
+        spacing: 12
+        BusyIndicator { anchors.horizontalCenter: parent.horizontalCenter; running: parent.visible; width: 64; height: 64 }
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            textFormat: Text.StyledText
+            text: "<b>" + onboarding.deviceName.replace(/&/g, "&amp;").replace(/</g, "&lt;") + "</b> is connecting..."
+            font.pixelSize: 20
+            color: Theme.text
+        }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: "Exchanging keys..."; font.pixelSize: 14; color: Theme.textSecondary }
+    }
+
+    Column {
+        anchors.centerIn: parent
+        visible: onboarding.pairingKind === OnboardingFlow.Error
+        spacing: 14
+        SymbolImage { anchors.horizontalCenter: parent.horizontalCenter; name: "xmark.circle.fill"; size: 64; color: Theme.red }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: onboarding.errorMessage; font.pixelSize: 15; color: Theme.textSecondary }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 12
+            OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
+            OnboardingButton { title: "Try Again"; onClicked: step.retry() }
+        }
+    }
+
+    // What a person needs to add this computer in the phone app by hand.
+    Popup {
+        id: manual
+        anchors.centerIn: parent
+        modal: true
+        padding: 20
+        readonly property string details: "Address: " + serverManager.localIP + "\nUser: " + ui.userName
+                                          + "\nSSH port: 22\nEternal Terminal port: " + serverManager.port
+        background: Rectangle { radius: 12; color: Theme.card }
+        contentItem: Column {
+            spacing: 12
+            Text { text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
+            Text { text: manual.details; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
+            Row {
+                spacing: 12
+                OnboardingButton { title: "Copy"; primary: false; onClicked: ui.copyText(manual.details) }
+                OnboardingButton { title: "Close"; onClicked: manual.close() }
+            }
+        }
+    }
+}

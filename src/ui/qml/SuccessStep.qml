@@ -1,0 +1,85 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+Item {
+    id: step
+    signal done()
+    property real checkmarkScale: 0.5
+    property real checkmarkOpacity: 0
+
+    component MenuBarCallout: Column {
+        spacing: 6
+        Rectangle {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: bar.implicitWidth + 32
+            height: bar.implicitHeight + 16
+            radius: 8
+            color: Theme.card
+            Row {
+                id: bar
+                anchors.centerIn: parent
+                spacing: 12
+                SymbolImage { name: "wifi"; size: 16; color: Theme.textSecondary }
+                SymbolImage { name: "battery.100"; size: 16; color: Theme.textSecondary }
+                Rectangle {
+                    width: 24
+                    height: 20
+                    radius: 4
+                    color: "transparent"
+                    border.width: 1.5
+                    border.color: Theme.accentColor
+                    SymbolImage { anchors.centerIn: parent; name: "terminal.fill"; size: 16; color: Theme.text }
+                }
+            }
+        }
+        SymbolImage { anchors.right: parent.right; anchors.rightMargin: 22; name: "arrow.up"; size: 20; color: Theme.text }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: "QuivraMac lives here"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.text }
+    }
+
+    Shortcut {
+        sequences: ["Return", "Enter"]
+        enabled: step.visible
+        onActivated: step.done()
+    }
+    ColumnLayout {
+        anchors.centerIn: parent
+        spacing: 14
+        SymbolImage {
+            Layout.alignment: Qt.AlignHCenter
+            name: "checkmark.circle.fill"
+            size: 80
+            color: Theme.green
+            scale: step.checkmarkScale
+            opacity: step.checkmarkOpacity
+        }
+        Text { Layout.alignment: Qt.AlignHCenter; text: "You're all set!"; font.pixelSize: 28; font.weight: Font.DemiBold; color: Theme.text }
+        Text {
+            objectName: "connectedText"
+            Layout.alignment: Qt.AlignHCenter
+            text: onboarding.deviceName + " is now connected to this Mac."
+            font.pixelSize: 15
+            color: Theme.textSecondary
+        }
+        MenuBarCallout { Layout.alignment: Qt.AlignHCenter }
+        Row {
+            Layout.alignment: Qt.AlignHCenter
+            spacing: 8
+            CheckBox {
+                objectName: "launchAtLogin"
+                text: "Launch at login"
+                Accessible.name: text
+                font.pixelSize: 14
+                checked: ui.launchAtLogin
+                onToggled: ui.launchAtLogin = checked
+            }
+            Text { anchors.verticalCenter: parent.verticalCenter; text: "Recommended"; font.pixelSize: 12; color: Theme.textSecondary }
+        }
+        OnboardingButton { Layout.alignment: Qt.AlignHCenter; title: "Done"; onClicked: step.done() }
+    }
+    ParallelAnimation {
+        running: true
+        SpringAnimation { target: step; property: "checkmarkScale"; to: 1; spring: 5; damping: 0.25; epsilon: 0.005 }
+        NumberAnimation { target: step; property: "checkmarkOpacity"; to: 1; duration: 350 }
+    }
+}

@@ -1,0 +1,63 @@
+import QtQuick
+import QtQuick.Layouts
+
+Item {
+    id: step
+    signal continueClicked()
+    property real iconScale: 0.8
+    property real iconOpacity: 0
+
+    Shortcut {
+        sequences: ["Return", "Enter"]
+        enabled: step.visible
+        onActivated: step.continueClicked()
+    }
+    ColumnLayout {
+        anchors.centerIn: parent
+        spacing: 0
+        SymbolImage {
+            Layout.alignment: Qt.AlignHCenter
+            name: "terminal.fill"
+            size: 128
+            color: Theme.accentColor
+            scale: step.iconScale
+            opacity: step.iconOpacity
+        }
+        Text {
+            Layout.topMargin: 32
+            Layout.alignment: Qt.AlignHCenter
+            text: "QuivraMac"
+            font.pixelSize: 28
+            font.weight: Font.DemiBold
+            color: Theme.text
+        }
+        Text {
+            Layout.topMargin: 12
+            Layout.alignment: Qt.AlignHCenter
+            text: "Your Mac, ready for Quivra."
+            font.pixelSize: 17
+            color: Theme.textSecondary
+        }
+        Text {
+            Layout.topMargin: 8
+            Layout.alignment: Qt.AlignHCenter
+            horizontalAlignment: Text.AlignHCenter
+            text: "This app runs quietly in your menu bar,\nkeeping your Mac connected to Quivra on iOS."
+            font.pixelSize: 15
+            lineHeight: 1.2
+            color: Theme.textSecondary
+        }
+        OnboardingButton {
+            Layout.topMargin: 48
+            Layout.alignment: Qt.AlignHCenter
+            title: "Continue"
+            onClicked: step.continueClicked()
+        }
+    }
+    // A spring of response 0.6 s, damping 0.7: the icon grows in while fading in.
+    ParallelAnimation {
+        running: true
+        SpringAnimation { target: step; property: "iconScale"; to: 1; spring: 4.5; damping: 0.3; epsilon: 0.005 }
+        NumberAnimation { target: step; property: "iconOpacity"; to: 1; duration: 400 }
+    }
+}

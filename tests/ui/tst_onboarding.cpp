@@ -1,0 +1,233 @@
+#include "app/quivramacapp.h"
+#include "onboarding/onboardingflow.h"
+#include "onboarding/prompts.h"
+#include "onboarding/systemcheck.h"
+#include "platform/autostart.h"
+#include "platform/userdefaults.h"
+#include "qmlharness.h"
+#include "ui/promptcard.h"
+#include "ui/uicontroller.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QSysInfo>
+
+using Flow = OnboardingFlow;
+
+namespace {
+
+void makeSshDirectory(QFile::Permissions permissions)
+{
+    const QString path = QDir::homePath() + "/.ssh";
+    QDir(path).removeRecursively();
+    if (permissions) {
+        QDir().mkpath(path);
+        QFile::setPermissions(path, permissions);
+    }
+}
+
+constexpr auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+QList<SystemCheck::State> states(const SystemCheck &check)
+{
+    QList<SystemCheck::State> result;
+    for (const SystemCheck::Item &item : check.items())
+        result.append(item.state);
+    return result;
+}
+
+} // namespace
+
+class TestOnboarding : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<testsupport::QmlHarness> m_harness;
+    testsupport::QmlHarness &h() { return *m_harness; }
+
+    // Runs the check's pauses and waits for its probes until it stops or all pass.
+    void runChecks(SystemCheck &check)
+    {
+        QVERIFY(QTest::qWaitFor([&] {
+            h().runScheduled();
+            return check.allPassed() || check.failedIndex() >= 0;
+        }));
+    }
+    void simulatePairing(const QString &device)
+    {
+        h().manager().pairingListener()->onPairingSuccess({ "ssh-ed25519 AAAA", device });
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_harness = std::make_unique<testsupport::QmlHarness>();
+        makeSshDirectory(owner);
+    }
+    void cleanup() { m_harness.reset(); }
+
+    void flowFollowsItsTransitionTable()
+    {
+        Flow &flow = h().onboarding();
+        ServerManager &manager = h().manager();
+        manager.startServer();
+        flow.appear();
+        QCOMPARE(flow.step(), Flow::Welcome);
+        flow.welcomeContinue();
+        flow.explanationBack();
+        QCOMPARE(flow.step(), Flow::Welcome);
+        flow.welcomeContinue();
+        flow.explanationContinue();
+        QCOMPARE(flow.step(), Flow::SystemCheck);
+        simulatePairing("Early Phone"); // not while the check is shown
+        QCOMPARE(flow.step(), Flow::SystemCheck);
+
+        flow.startPairing();
+        QVERIFY(manager.isPairing());
+        QCOMPARE(flow.step(), Flow::Pairing);
+        QCOMPARE(flow.code(), manager.pairingToken());
+        QCOMPARE(flow.expiresIn(), 300.0);
+        const QString first = flow.code();
+        flow.renewCode();
+        QVERIFY(flow.code() != first && flow.code() == manager.pairingToken());
+        QVERIFY(manager.isPairing());
+        simulatePairing("Early Phone"); // the same name as before: no change, no success
+        QCOMPARE(flow.step(), Flow::Pairing);
+        simulatePairing("Ana's iPhone");
+        QCOMPARE(flow.step(), Flow::Success);
+        QCOMPARE(flow.deviceName(), "Ana's iPhone");
+
+        bool persistedFirst = false;
+        connect(&flow, &Flow::dismiss, this,
+                [&] { persistedFirst = userdefaults::boolValue("hasCompletedOnboarding"); });
+        flow.finish();
+        QVERIFY(persistedFirst);
+        QVERIFY(h().app().hasCompletedOnboarding());
+        flow.appear();
+        QCOMPARE(flow.step(), Flow::Welcome);
+        QCOMPARE(Flow::message(Flow::NetworkMismatch, "Home"),
+                 "Your Mac is on \"Home\". Make sure your iPhone is on the same network.");
+    }
+
+    void systemCheckPassesAfterItsPauses()
+    {
+        SystemCheck &check = h().systemCheck();
+        check.appear();
+        QCOMPARE(states(check),
+                 (QList { SystemCheck::Checking, SystemCheck::Pending, SystemCheck::Pending,
+                          SystemCheck::Pending }));
+        QCOMPARE(check.title(), "Checking your Mac...");
+        runChecks(check);
+        QVERIFY(check.allPassed());
+        QCOMPARE(check.title(), "Looking good!");
+        // 0.3 s before each check, 0.4 s after each pass, 1 s after starting the server, 0.8 s.
+        QCOMPARE(h().scheduledTotal(), std::chrono::milliseconds(4 * 300 + 4 * 400 + 1000 + 800));
+        QCOMPARE(check.items().at(2).successMessage, "Running on port 2022");
+        QCOMPARE(check.items().at(3).successMessage, "Connected at 192.168.1.20");
+        QVERIFY(h().manager().isRunning());
+    }
+
+    void systemCheckStopsAtTheFirstFailure()
+    {
+        SystemCheck &check = h().systemCheck();
+        makeSshDirectory({});
+        check.appear();
+        runChecks(check);
+        QCOMPARE(states(check),
+                 (QList { SystemCheck::Passed, SystemCheck::Failed, SystemCheck::Pending,
+                          SystemCheck::Pending }));
+        QCOMPARE(check.title(), "Almost there...");
+        QCOMPARE(check.failedMessage(), "~/.ssh directory doesn't exist");
+        QCOMPARE(check.failedPrompt(), prompts::missingSshDirectory());
+
+        makeSshDirectory(owner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther
+                         | QFile::ExeOther);
+        h().manager().startServer(); // the list keeps what it was built with
+        check.start();
+        QCOMPARE(check.failedIndex(), -1);
+        runChecks(check);
+        QCOMPARE(check.failedMessage(), "~/.ssh has wrong permissions");
+        QVERIFY(check.failedPrompt().contains("Current permissions: 755\nExpected: 700"));
+
+        makeSshDirectory(owner);
+        h().closeSshDaemon();
+        check.start();
+        runChecks(check);
+        QCOMPARE(check.failedIndex(), 0);
+        QCOMPARE(check.failedMessage(), "Remote Login is disabled");
+    }
+
+    void serverThatCannotBindNamesThePort()
+    {
+        qputenv("FAKE_ETSERVER_OUTPUT", "bind failed: EADDRINUSE\\n");
+        qputenv("FAKE_ETSERVER_EXIT_CODE", "1");
+        SystemCheck &check = h().systemCheck();
+        check.appear();
+        // Up to the server check's start; the child then fails before its 1 s pause ends.
+        QVERIFY(QTest::qWaitFor([&] { return h().runOne() && h().manager().serverProcess(); }));
+        QTRY_VERIFY(!h().manager().isRunning() && h().manager().logs().contains("EADDRINUSE"));
+        runChecks(check);
+        qunsetenv("FAKE_ETSERVER_OUTPUT");
+        qunsetenv("FAKE_ETSERVER_EXIT_CODE");
+        QCOMPARE(check.failedMessage(), "Port 2022 is in use");
+        QCOMPARE(check.failedPrompt(), prompts::portInUse(2022));
+    }
+
+    void promptsAndTheirPreviews()
+    {
+        QCOMPARE(prompts::context().section('\n', 0, 0),
+                 QSysInfo::prettyProductName() + ", QuivraMac " QUIVRA_VERSION);
+        QCOMPARE(prompts::preview("one"), "one");
+        QCOMPARE(prompts::preview("1\n2\n3"), "1\n2\n3");
+        QCOMPARE(prompts::preview("1\n2\n3\n4"), "1\n2\n3\n...");
+        for (const QString &prompt : { prompts::remoteLogin(), prompts::missingSshDirectory(),
+                                       prompts::wrongPermissions("755"), prompts::portInUse(2022),
+                                       prompts::serverCrash(-1, "log"), prompts::noNetwork() }) {
+            QCOMPARE(prompts::preview(prompt),
+                     prompt.section('\n', 0, 0) + "\n\n" + prompts::context().section('\n', 0, 0)
+                         + "\n...");
+        }
+        const QString log = QString(600, 'a') + QString(500, 'b');
+        QVERIFY(
+            prompts::serverCrash(-1, log).contains("exited with code -1.\n\nLast log output:\n```\n"
+                                                   + QString(500, 'b') + "\n```\n\nHelp me"));
+        QVERIFY(prompts::serverCrash(-1, {}).contains("exited with code -1.\n\nHelp me"));
+    }
+
+    void promptCardCopiesAndResetsPerCopy()
+    {
+        PromptCard card;
+        QList<std::function<void()>> resets;
+        card.setScheduler(
+            [&](QObject *, std::chrono::milliseconds delay, std::function<void()> work) {
+                QCOMPARE(delay, std::chrono::milliseconds(2000));
+                resets.append(std::move(work));
+            });
+        QSignalSpy onCopied(&card, &PromptCard::copiedToClipboard);
+        card.setPrompt(prompts::noNetwork());
+        card.copy();
+        QCOMPARE(QGuiApplication::clipboard()->text(), prompts::noNetwork());
+        QVERIFY(card.copied());
+        card.copy();
+        resets.takeFirst()(); // the first copy's reset clears it, whatever came after
+        QVERIFY(!card.copied());
+        QCOMPARE(onCopied.size(), 2);
+    }
+
+    void launchAtLoginFollowsThePreference()
+    {
+        UiController ui(&h().manager(), nullptr);
+        UiController::applyLaunchAtLogin();
+        QVERIFY(ui.launchAtLogin()); // on by default
+        QFile entry(platform::launchAtLoginEntry());
+        QVERIFY(entry.open(QIODevice::ReadOnly));
+        const QByteArray exec = "Exec=\"" + QCoreApplication::applicationFilePath().toUtf8() + "\"";
+        QVERIFY(entry.readAll().contains(exec));
+        ui.setLaunchAtLogin(false);
+        QVERIFY(!QFile::exists(platform::launchAtLoginEntry()));
+        QVERIFY(!userdefaults::boolValue("launchAtLogin"));
+    }
+};
+
+QUIVRA_QUICK_TEST_MAIN(TestOnboarding)
+#include "tst_onboarding.moc"
