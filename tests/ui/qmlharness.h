@@ -40,6 +40,7 @@ public:
     // window of its implicit size and shows it.
     QQuickItem *show(const QString &viewType);
     QImage grab();
+    QQuickWindow *window() const { return m_window.get(); }
     QQuickItem *view() const { return m_view; }
     void setDark(bool dark);
 

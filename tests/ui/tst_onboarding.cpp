@@ -2,6 +2,8 @@
 #include "onboarding/onboardingflow.h"
 #include "onboarding/prompts.h"
 #include "onboarding/systemcheck.h"
+#include "pairingfixture.h"
+#include "phoneclient.h"
 #include "platform/autostart.h"
 #include "platform/userdefaults.h"
 #include "qmlharness.h"
@@ -107,6 +109,42 @@ private Q_SLOTS:
         QCOMPARE(flow.step(), Flow::Welcome);
         QCOMPARE(Flow::message(Flow::NetworkMismatch, "Home"),
                  "Your Mac is on \"Home\". Make sure your iPhone is on the same network.");
+    }
+
+    void keyboardAloneReachesSuccessWithARealPhone()
+    {
+        h().onboarding().appear();
+        h().show("OnboardingView");
+        QQuickWindow *window = h().window();
+        window->requestActivate();
+        QTRY_VERIFY(QGuiApplication::focusWindow() == window);
+        const auto press = [&](Qt::Key key) {
+            QObject *stack = h().find<QObject>("onboardingStack");
+            QTRY_VERIFY(!stack->property("busy").toBool());
+            QTest::keyClick(window, key);
+        };
+        press(Qt::Key_Return);
+        QCOMPARE(h().onboarding().step(), Flow::Explanation);
+        press(Qt::Key_Escape);
+        QCOMPARE(h().onboarding().step(), Flow::Welcome);
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+        QCOMPARE(h().onboarding().step(), Flow::SystemCheck);
+        runChecks(h().systemCheck());
+        QVERIFY(h().systemCheck().allPassed());
+        press(Qt::Key_Return);
+        QCOMPARE(h().onboarding().step(), Flow::Pairing);
+
+        const QByteArray key = testsupport::ed25519Key();
+        const QByteArray request = "POST /pair?token=" + h().onboarding().code().toLatin1()
+            + " HTTP/1.1\r\nHost: 127.0.0.1\r\nX-Device-Name: Test Phone\r\nContent-Length: "
+            + QByteArray::number(key.size()) + "\r\n\r\n" + key;
+        QCOMPARE(testsupport::replyBody(
+                     testsupport::exchange(h().manager().environment().pairingPort, request)),
+                 "Paired Successfully");
+        QCOMPARE(h().onboarding().step(), Flow::Success);
+        press(Qt::Key_Return);
+        QVERIFY(h().app().hasCompletedOnboarding());
     }
 
     void systemCheckPassesAfterItsPauses()
