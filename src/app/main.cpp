@@ -1,3 +1,4 @@
+#include "app/latenessprobe.h"
 #include "app/quivramacapp.h"
 #include "control/controlservice.h"
 #include "onboarding/onboardingflow.h"
@@ -42,6 +43,10 @@ int main(int argc, char *argv[])
     if (claim == ControlService::Claim::NoSessionBus)
         console::line(
             QStringLiteral("No session bus: QuivraMac cannot be controlled from the command line"));
+
+    std::unique_ptr<LatenessProbe> lateness;
+    if (qEnvironmentVariableIsSet("QUIVRA_LATENESS_PROBE"))
+        lateness = std::make_unique<LatenessProbe>();
 
     QuivraMacApp quivra;
     ServerManager &manager = quivra.serverManager();
