@@ -2,6 +2,9 @@
 #include "server/serverlog.h"
 #include "testsupport.h"
 
+#include <QRandomGenerator>
+#include <QTextBoundaryFinder>
+
 class TestServerLog : public QObject
 {
     Q_OBJECT
@@ -39,6 +42,35 @@ private Q_SLOTS:
         const QString kept = keepLastCharacters(big, serverlog::maxCharacters);
         QCOMPARE(kept.size(), 5000 * (family.size() + 1));
         QVERIFY(kept.startsWith(family));
+    }
+
+    void trimmingNearTheEndMatchesTrimmingTheWhole()
+    {
+        // The same answer as walking the whole text, for logs of lines mixing long clusters,
+        // flag pairs (whose pairing depends on everything before them) and line breaks.
+        const auto whole = [](const QString &text, qsizetype limit) {
+            QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+            finder.toEnd();
+            for (qsizetype kept = 0; kept < limit; ++kept) {
+                if (finder.toPreviousBoundary() <= 0)
+                    return text;
+            }
+            return text.mid(finder.position());
+        };
+        const QStringList pieces { "a",
+                                   "\n",
+                                   "\r\n",
+                                   "e\u0301\u0301",
+                                   QStringLiteral("\U0001F1E9"), // a regional indicator
+                                   QStringLiteral("\U0001F468\u200D\U0001F469") };
+        QRandomGenerator random(7);
+        for (int round = 0; round < 50; ++round) {
+            QString text;
+            for (int i = 0, n = random.bounded(4000); i < n; ++i)
+                text += pieces[random.bounded(int(pieces.size()))];
+            const qsizetype limit = 1 + random.bounded(300);
+            QCOMPARE(serverlog::keepLastCharacters(text, limit), whole(text, limit));
+        }
     }
 
     void parsesProcessIds()
