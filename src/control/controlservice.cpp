@@ -7,6 +7,8 @@
 #include <QDBusMessage>
 #include <QMetaProperty>
 
+#include <utility>
+
 ControlService::Claim ControlService::claimName()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
@@ -34,12 +36,23 @@ ServerManagerAdaptor::ServerManagerAdaptor(ServerManager *manager)
 {
     // Every observable property of the manager is announced when it changes.
     const QMetaObject *meta = manager->metaObject();
-    const QMetaMethod announce =
+    const QMetaMethod onChange =
         metaObject()->method(metaObject()->indexOfSlot("announceChange()"));
     for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
         if (meta->property(i).hasNotifySignal())
-            connect(manager, meta->property(i).notifySignal(), this, announce);
+            connect(manager, meta->property(i).notifySignal(), this, onChange);
     }
+    // The log changes with every chunk of server output: its first change goes out at once,
+    // later ones within the interval together.
+    m_logs = meta->property(meta->indexOfProperty("logs"));
+    m_logsThrottle.setSingleShot(true);
+    m_logsThrottle.setInterval(100);
+    connect(&m_logsThrottle, &QTimer::timeout, this, [this] {
+        if (std::exchange(m_logsPending, false)) {
+            announce(m_logs);
+            m_logsThrottle.start();
+        }
+    });
 }
 
 void ServerManagerAdaptor::announceChange()
@@ -50,15 +63,26 @@ void ServerManagerAdaptor::announceChange()
         const QMetaProperty property = meta->property(i);
         if (property.notifySignalIndex() != signal)
             continue;
-        QDBusMessage message = QDBusMessage::createSignal(
-            QString::fromLatin1(ControlService::objectPath),
-            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
-        message << QString::fromLatin1(ControlService::interfaceName)
-                << QVariantMap { { QString::fromLatin1(property.name()),
-                                   property.read(m_manager) } }
-                << QStringList();
-        QDBusConnection::sessionBus().send(message);
+        if (property.propertyIndex() != m_logs.propertyIndex()) {
+            announce(property);
+        } else if (m_logsThrottle.isActive()) {
+            m_logsPending = true;
+        } else {
+            announce(property);
+            m_logsThrottle.start();
+        }
     }
+}
+
+void ServerManagerAdaptor::announce(const QMetaProperty &property)
+{
+    QDBusMessage message = QDBusMessage::createSignal(
+        QString::fromLatin1(ControlService::objectPath),
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
+    message << QString::fromLatin1(ControlService::interfaceName)
+            << QVariantMap { { QString::fromLatin1(property.name()), property.read(m_manager) } }
+            << QStringList();
+    QDBusConnection::sessionBus().send(message);
 }
 
 bool ServerManagerAdaptor::isRunning() const

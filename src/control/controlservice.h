@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDBusAbstractAdaptor>
+#include <QMetaProperty>
 #include <QObject>
+#include <QTimer>
 
 class ServerManager;
 
@@ -60,5 +62,10 @@ private Q_SLOTS:
     void announceChange();
 
 private:
+    void announce(const QMetaProperty &property);
+
     ServerManager *m_manager;
+    QMetaProperty m_logs;
+    QTimer m_logsThrottle;
+    bool m_logsPending = false;
 };

@@ -4,6 +4,7 @@
 #include "platform/userdefaults.h"
 #include "server/processids.h"
 #include "server/serverlog.h"
+#include "server/serveroutput.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -115,11 +116,12 @@ void ServerManager::startServer()
     m_serverPid = process->processId();
     setRunning(true);
     m_uptimeTimer.start();
-    connect(process, &QProcess::readyReadStandardOutput, this,
-            [this, process] { appendServerOutput(process->readAllStandardOutput()); });
+    auto *output = new ServerOutputReader(process);
+    connect(output, &ServerOutputReader::received, this, &ServerManager::appendServerOutput);
     // The exit notice is queued so that a stop's own messages come before it, as they would if
     // the platform reported the exit from another thread.
-    connect(process, &QProcess::finished, this, [this, generation](int code) {
+    connect(process, &QProcess::finished, this, [this, generation, output](int code) {
+        output->flush();
         QMetaObject::invokeMethod(
             this, [this, generation, code] { onServerExited(generation, code); },
             Qt::QueuedConnection);
@@ -195,22 +197,21 @@ void ServerManager::appendServerOutput(const QByteArray &chunk)
     if (!entry)
         return;
     console::line(*entry);
-    m_logs = serverlog::keepLastCharacters(m_logs + *entry + QLatin1Char('\n'),
-                                           serverlog::maxCharacters);
+    m_log.appendOutput(*entry);
     Q_EMIT logsChanged();
 }
 
 void ServerManager::log(const QString &message)
 {
-    m_logs += message + QLatin1Char('\n');
+    m_log.appendMessage(message);
     Q_EMIT logsChanged();
 }
 
 void ServerManager::setLogs(const QString &logs)
 {
-    if (logs == m_logs)
+    if (logs == m_log.text())
         return;
-    m_logs = logs;
+    m_log.assign(logs);
     Q_EMIT logsChanged();
 }
 

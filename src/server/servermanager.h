@@ -2,6 +2,7 @@
 
 #include "pairing/pairinglistener.h"
 #include "server/serverenvironment.h"
+#include "server/serverlog.h"
 
 #include <QObject>
 #include <QPointer>
@@ -35,7 +36,7 @@ public:
     QString pairingToken() const { return m_pairingToken; }
     QString localIP() const { return m_localIP; }
     bool isPairing() const { return m_isPairing; }
-    QString logs() const { return m_logs; }
+    QString logs() const { return m_log.text(); }
     // Empty until the first phone pairs.
     QString lastPairedDevice() const { return m_lastPairedDevice; }
 
@@ -110,7 +111,7 @@ private:
     QString m_pairingToken;
     QString m_localIP = QStringLiteral("127.0.0.1");
     bool m_isPairing = false;
-    QString m_logs;
+    ServerLog m_log;
     QString m_lastPairedDevice;
 
     QTimer m_uptimeTimer;

@@ -2,6 +2,7 @@
 // with the app's command line: runs in the foreground, writes everything to standard output a line
 // at a time, dies silently on SIGTERM, exits with code 2 on SIGINT, and aborts shortly after
 // failing to bind a taken port. What else it does is chosen by FAKE_ETSERVER_* variables.
+#include <algorithm>
 #include <arpa/inet.h>
 #include <csignal>
 #include <cstdio>
@@ -108,10 +109,16 @@ int main(int argc, char **argv)
     if (const char *output = setting("FAKE_ETSERVER_OUTPUT"))
         say(unescape(output));
     if (const char *burst = setting("FAKE_ETSERVER_BURST_BYTES")) {
+        // As fast as it can: whole lines, in writes of the size stdio uses for a pipe unless told.
         const std::string line = "[INFO etserver-main] burst line of server output, 48 bytes\n";
+        const char *writeBytes = setting("FAKE_ETSERVER_BURST_WRITE_BYTES");
+        const size_t blockBytes = std::max<size_t>(writeBytes ? std::atol(writeBytes) : 4096, 1);
+        std::string block = line;
+        while (block.size() + line.size() <= blockBytes)
+            block += line;
         for (long written = 0, total = std::atol(burst); written < total;
-             written += long(line.size()))
-            say(line);
+             written += long(block.size()))
+            say(block);
     }
     if (const char *code = setting("FAKE_ETSERVER_EXIT_CODE"))
         return std::atoi(code);

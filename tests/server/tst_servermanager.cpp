@@ -195,6 +195,17 @@ private Q_SLOTS:
         QVERIFY(!manager.logs().contains(QChar::ReplacementCharacter));
     }
 
+    void outputFloodComesBeforeTheExitNotice()
+    {
+        // More output than is taken in one turn is still waiting when the server exits.
+        qputenv("FAKE_ETSERVER_BURST_BYTES", "2000000");
+        qputenv("FAKE_ETSERVER_EXIT_CODE", "3");
+        ServerManager &manager = makeManager();
+        manager.startServer();
+        QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 3\n"));
+        QVERIFY(manager.logs().endsWith("48 bytes\n[QuivraMac] Server exited with code 3\n"));
+    }
+
     void togglingPairingIssuesFreshCodes()
     {
         ServerManager &manager = makeManager();
