@@ -18,6 +18,7 @@ void DiagnosticEngine::runAllChecks()
 {
     m_isRunning = true;
     Q_EMIT isRunningChanged();
+    m_interfaces = m_system.interfaces();
     for (DiagnosticCheck &check : m_checks)
         check.status.kind = DiagnosticStatus::Checking;
     Q_EMIT checksChanged();
@@ -42,6 +43,7 @@ void DiagnosticEngine::runCheck(const QString &id)
     if (found == m_checks.cend())
         return;
     setStatus(id, { DiagnosticStatus::Checking, {} });
+    m_interfaces = m_system.interfaces();
     runProbe(id, [this, id](const DiagnosticStatus &verdict) { setStatus(id, verdict); });
 }
 
@@ -60,9 +62,9 @@ void DiagnosticEngine::runProbe(const QString &id,
     } else if (id == QLatin1String("etserver")) {
         store(checks::server(m_serverManager));
     } else if (id == QLatin1String("network")) {
-        store(checks::network(m_system.interfaces()));
+        store(checks::network(m_interfaces));
     } else if (id == QLatin1String("tailscale")) {
-        store(checks::tailscale(m_system.interfaces(), m_system.tailscaleInstalled()));
+        store(checks::tailscale(m_interfaces, m_system.tailscaleInstalled()));
     }
 }
 
@@ -95,7 +97,7 @@ StatusResponse DiagnosticEngine::makeStatusResponse(int pairingPort) const
                                       problem ? std::optional(check.status.message) : std::nullopt,
                                       problem && check.canAutoFix });
     }
-    const QList<net::InterfaceAddress> addresses = m_system.interfaces();
+    const QList<net::InterfaceAddress> &addresses = m_interfaces;
     response.hostname = m_system.hostLabel();
     response.username = m_system.userName();
     response.ip = net::chooseLocalIP(addresses);

@@ -34,6 +34,7 @@ public:
     void runCheck(const QString &id);
     bool allCriticalPassed() const { return allCriticalPassed(m_checks); }
     static bool allCriticalPassed(const QList<DiagnosticCheck> &checks);
+    // The report of the last run, with the addresses that run saw.
     StatusResponse makeStatusResponse(int pairingPort) const;
 
 Q_SIGNALS:
@@ -52,4 +53,7 @@ private:
     QPointer<ServerManager> m_serverManager;
     std::shared_ptr<SshProbe> m_probe;
     DiagnosticSystem m_system;
+    // The machine's addresses as the last run of all checks saw them: the network checks and
+    // the report share one look, which is the costly part of a report.
+    QList<net::InterfaceAddress> m_interfaces;
 };

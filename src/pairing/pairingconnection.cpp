@@ -20,6 +20,13 @@ PairingConnection::PairingConnection(QTcpSocket *socket, std::chrono::millisecon
     });
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, &PairingConnection::finishReading);
+    // A member, not a free single-shot timer: those outlive the connection until they fire, and
+    // a flood would pile up thousands, each making every timer operation slower.
+    m_lingerLimit.setSingleShot(true);
+    connect(&m_lingerLimit, &QTimer::timeout, this, [this] {
+        m_socket->abort();
+        deleteLater();
+    });
     m_deadline.start(m_readDeadline);
 }
 
@@ -120,8 +127,5 @@ void PairingConnection::close()
     if (m_socket->state() == QAbstractSocket::UnconnectedState)
         deleteLater();
     else // a phone that stops reading must not hold the connection open
-        QTimer::singleShot(m_readDeadline, this, [this] {
-            m_socket->abort();
-            deleteLater();
-        });
+        m_lingerLimit.start(m_readDeadline);
 }

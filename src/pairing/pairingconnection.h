@@ -47,6 +47,7 @@ private:
     QTcpSocket *m_socket;
     QByteArray m_buffer;
     QTimer m_deadline;
+    QTimer m_lingerLimit;
     std::chrono::milliseconds m_readDeadline;
     bool m_reading = true;
     bool m_closed = false;

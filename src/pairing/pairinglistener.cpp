@@ -8,13 +8,28 @@
 
 #include <QTcpSocket>
 
+#include <utility>
+
 PairingListener::PairingListener(ServerManager *owner)
     : m_serverManager(owner)
     , m_sshProbe(owner ? std::make_shared<SshProbe>(owner->environment().sshHost,
                                                     owner->environment().sshPort)
                        : std::make_shared<SshProbe>())
 {
-    connect(&m_server, &QTcpServer::newConnection, this, &PairingListener::acceptConnections);
+    // Taken on the loop's next turn rather than at once: QTcpServer accepts for as long as
+    // connections keep arriving, which under a flood would hold the main loop indefinitely. Left
+    // pending, they stop it at its limit of pending connections until this turn takes them.
+    connect(&m_server, &QTcpServer::newConnection, this, [this] {
+        if (std::exchange(m_acceptScheduled, true))
+            return;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_acceptScheduled = false;
+                acceptConnections();
+            },
+            Qt::QueuedConnection);
+    });
     connect(&m_advertiser, &platform::DnsSdAdvertiser::registered, this,
             [this](const QString &name) {
                 console::line(QStringLiteral("PairingListener registered as: ") + name);

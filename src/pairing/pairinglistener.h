@@ -56,6 +56,7 @@ private:
                            PairingConnection *connection);
 
     QTcpServer m_server;
+    bool m_acceptScheduled = false;
     platform::DnsSdAdvertiser m_advertiser;
     quint16 m_port = 8080;
     QPointer<ServerManager> m_serverManager;
