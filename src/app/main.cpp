@@ -45,7 +45,7 @@ int main(int argc, char *argv[])
             QStringLiteral("No session bus: QuivraMac cannot be controlled from the command line"));
 
     std::unique_ptr<LatenessProbe> lateness;
-    if (qEnvironmentVariableIsSet("QUIVRA_LATENESS_PROBE"))
+    if (qEnvironmentVariableIntValue("QUIVRA_LATENESS_PROBE") == 1)
         lateness = std::make_unique<LatenessProbe>();
 
     QuivraMacApp quivra;
@@ -87,5 +87,12 @@ int main(int argc, char *argv[])
     }
     if (!quivra.hasCompletedOnboarding())
         windows.open(QStringLiteral("onboarding"));
+    // For the benchmarks, which have no way to click: the settings window on its Logs tab.
+    if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs")) {
+        windows.open(QStringLiteral("settings"));
+        if (auto *view = windows.window(QStringLiteral("settings"))
+                             ->findChild<QObject *>(QStringLiteral("settingsView")))
+            view->setProperty("selectedTab", 1);
+    }
     return app.exec();
 }

@@ -14,6 +14,7 @@ Window {
     onVisibleChanged: if (visible) view.selectedTab = 0
     SettingsView {
         id: view
+        objectName: "settingsView"
         anchors.fill: parent
     }
 }
