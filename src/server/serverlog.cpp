@@ -66,7 +66,7 @@ std::optional<qsizetype> lastCharacters(QStringView text, qsizetype n)
     qsizetype at = text.size();
     qsizetype kept = 0;
     for (; kept < n && at > 0 && isAscii(text[at - 1]); ++kept)
-        at -= (at >= 2 && text[at - 2] == u'\r' && text[at - 1] == u'\n') ? 2 : 1;
+        at -= (at >= 2 && isCrLf(text, at - 2)) ? 2 : 1;
     if (kept < n && at == 0)
         return std::nullopt;
     // Anything but ASCII right before the cut might join the character after it.

@@ -2,7 +2,6 @@
 // with the app's command line: runs in the foreground, writes everything to standard output a line
 // at a time, dies silently on SIGTERM, exits with code 2 on SIGINT, and aborts shortly after
 // failing to bind a taken port. What else it does is chosen by FAKE_ETSERVER_* variables.
-#include <algorithm>
 #include <arpa/inet.h>
 #include <csignal>
 #include <cstdio>
@@ -112,7 +111,7 @@ int main(int argc, char **argv)
         // As fast as it can: whole lines, in writes of the size stdio uses for a pipe unless told.
         const std::string line = "[INFO etserver-main] burst line of server output, 48 bytes\n";
         const char *writeBytes = setting("FAKE_ETSERVER_BURST_WRITE_BYTES");
-        const size_t blockBytes = std::max<size_t>(writeBytes ? std::atol(writeBytes) : 4096, 1);
+        const size_t blockBytes = writeBytes ? size_t(std::atol(writeBytes)) : 4096;
         std::string block = line;
         while (block.size() + line.size() <= blockBytes)
             block += line;
