@@ -53,7 +53,6 @@ int main(int argc, char *argv[])
     if (claim == ControlService::Claim::Claimed)
         ControlService::publish(&manager);
 
-    UiController::applyLaunchAtLogin();
     const bool headless = QGuiApplication::platformName() == QLatin1String("offscreen")
         || QGuiApplication::platformName() == QLatin1String("minimal");
     if (headless)

@@ -118,6 +118,11 @@ QString ServerManagerAdaptor::lastPairedDevice() const
     return m_manager->lastPairedDevice();
 }
 
+qlonglong ServerManagerAdaptor::pairingExpiresAt() const
+{
+    return m_manager->pairingExpiresAt();
+}
+
 void ServerManagerAdaptor::StartServer()
 {
     m_manager->startServer();

@@ -39,6 +39,7 @@ class ServerManagerAdaptor : public QDBusAbstractAdaptor
     Q_PROPERTY(bool isPairing READ isPairing)
     Q_PROPERTY(QString logs READ logs)
     Q_PROPERTY(QString lastPairedDevice READ lastPairedDevice)
+    Q_PROPERTY(qlonglong pairingExpiresAt READ pairingExpiresAt)
 
 public:
     explicit ServerManagerAdaptor(ServerManager *manager);
@@ -51,6 +52,7 @@ public:
     bool isPairing() const;
     QString logs() const;
     QString lastPairedDevice() const;
+    qlonglong pairingExpiresAt() const;
 
 public Q_SLOTS:
     void StartServer();

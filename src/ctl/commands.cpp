@@ -5,6 +5,7 @@
 #include "platform/quitsignals.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QTextStream>
@@ -100,32 +101,42 @@ int pair(ControlClient &client)
     const QString before = client.property("lastPairedDevice").toString();
     if (!client.property("isPairing").toBool() && !client.call(QStringLiteral("TogglePairingMode")))
         return failedCall(client);
-    const QString code = client.property("pairingToken").toString();
     const QString address = client.property("localIP").toString();
-    out() << "Pairing code: " << code << "\n\n";
-    for (const QString &row : bigdigits::render(code))
-        out() << "  " << row << '\n';
-    out() << "\nAddress: " << address << "\n\n";
+    const bool terminal = ::isatty(STDOUT_FILENO);
+    QString shownCode;
+    const auto showCode = [&](const QString &code) {
+        if (code == shownCode)
+            return;
+        shownCode = code;
+        out() << (terminal ? "\n" : "") << "Pairing code: " << code << "\n\n";
+        for (const QString &row : bigdigits::render(code))
+            out() << "  " << row << '\n';
+        out() << Qt::flush;
+    };
+    showCode(client.property("pairingToken").toString());
+    out() << "Address: " << address << "\n\n";
     for (const QString &row : bigdigits::render(address))
         out() << "  " << row << '\n';
     out() << "\nOpen Quivra on your iPhone and enter the code. Ctrl-C cancels." << Qt::endl;
 
+    // The app owns the code's lifetime: this only shows the time it has left.
     int result = Interrupted;
-    int remaining = 300;
-    const bool terminal = ::isatty(STDOUT_FILENO);
+    qint64 expiresAt = client.property("pairingExpiresAt").toLongLong();
     QTimer countdown;
     QObject::connect(&countdown, &QTimer::timeout, [&] {
-        if (--remaining <= 0) {
-            result = Failed;
-            err() << (terminal ? "\n" : "") << "The pairing code expired." << Qt::endl;
-            QCoreApplication::quit();
-        } else if (terminal) {
-            out() << QString::asprintf("\rExpires in %d:%02d ", remaining / 60, remaining % 60)
+        const qint64 left = (expiresAt - QDateTime::currentMSecsSinceEpoch() + 999) / 1000;
+        if (terminal && left >= 0)
+            out() << QString::asprintf("\rExpires in %d:%02d ", int(left / 60), int(left % 60))
                   << Qt::flush;
-        }
     });
     countdown.start(1000);
     QObject::connect(&client, &ControlClient::propertyChanged, [&](const QString &name) {
+        if (name == QLatin1String("pairingExpiresAt")) {
+            // Renewed elsewhere (the setup window): the new code replaces the old one.
+            expiresAt = client.property("pairingExpiresAt").toLongLong();
+            showCode(client.property("pairingToken").toString());
+            return;
+        }
         if (name != QLatin1String("isPairing") && name != QLatin1String("lastPairedDevice"))
             return;
         // The app finishes a pairing in one step, so by the time it answers this read its
@@ -136,7 +147,10 @@ int pair(ControlClient &client)
             result = Success;
             QCoreApplication::quit();
         } else if (!client.property("isPairing").toBool()) {
-            err() << (terminal ? "\n" : "") << "Pairing mode was switched off." << Qt::endl;
+            const bool expired = expiresAt <= QDateTime::currentMSecsSinceEpoch();
+            err() << (terminal ? "\n" : "")
+                  << (expired ? "The pairing code expired." : "Pairing mode was switched off.")
+                  << Qt::endl;
             result = Failed;
             QCoreApplication::quit();
         }

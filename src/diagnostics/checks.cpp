@@ -2,7 +2,6 @@
 
 #include "net/hostlabel.h"
 #include "platform/systeminfo.h"
-#include "server/servermanager.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -97,11 +96,11 @@ DiagnosticStatus authorizedKeys(const QString &home)
     return DiagnosticStatus::passed();
 }
 
-DiagnosticStatus server(const ServerManager *manager)
+DiagnosticStatus server(std::optional<bool> running)
 {
-    if (!manager)
+    if (!running)
         return DiagnosticStatus::fixable(QStringLiteral("Server manager not available"));
-    if (manager->isRunning())
+    if (*running)
         return DiagnosticStatus::passed();
     return DiagnosticStatus::fixable(QStringLiteral("Quivra server is not running"));
 }

@@ -6,8 +6,10 @@
 #include <QList>
 
 #include <functional>
+#include <optional>
 
-class ServerManager;
+// Whether the server runs; none when nothing supervises it any more.
+using ServerRunning = std::function<std::optional<bool>()>;
 
 // What the checks read from the machine; tests replace pieces.
 struct DiagnosticSystem
@@ -28,7 +30,7 @@ QList<DiagnosticCheck> fixedList();
 
 DiagnosticStatus sshDirectory(const QString &home);
 DiagnosticStatus authorizedKeys(const QString &home);
-DiagnosticStatus server(const ServerManager *manager);
+DiagnosticStatus server(std::optional<bool> running);
 DiagnosticStatus network(const QList<net::InterfaceAddress> &addresses);
 DiagnosticStatus tailscale(const QList<net::InterfaceAddress> &addresses, bool installed);
 

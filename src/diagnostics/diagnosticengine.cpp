@@ -1,13 +1,12 @@
 #include "diagnostics/diagnosticengine.h"
 
 #include "diagnostics/sshprobe.h"
-#include "server/servermanager.h"
 
-DiagnosticEngine::DiagnosticEngine(ServerManager *serverManager, std::shared_ptr<SshProbe> probe,
+DiagnosticEngine::DiagnosticEngine(ServerRunning serverRunning, std::shared_ptr<SshProbe> probe,
                                    DiagnosticSystem system, QObject *parent)
     : QObject(parent)
     , m_checks(checks::fixedList())
-    , m_serverManager(serverManager)
+    , m_serverRunning(std::move(serverRunning))
     , m_probe(probe ? std::move(probe) : std::make_shared<SshProbe>())
     , m_system(std::move(system))
 { }
@@ -60,7 +59,7 @@ void DiagnosticEngine::runProbe(const QString &id,
     } else if (id == QLatin1String("auth_keys")) {
         store(checks::authorizedKeys(m_system.homeDirectory()));
     } else if (id == QLatin1String("etserver")) {
-        store(checks::server(m_serverManager));
+        store(checks::server(m_serverRunning ? m_serverRunning() : std::nullopt));
     } else if (id == QLatin1String("network")) {
         store(checks::network(m_interfaces));
     } else if (id == QLatin1String("tailscale")) {

@@ -4,11 +4,9 @@
 #include "diagnostics/statusresponse.h"
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 
-class ServerManager;
 class SshProbe;
 
 // Runs the six readiness checks and condenses them into the phone's status report. One engine
@@ -21,7 +19,7 @@ class DiagnosticEngine : public QObject
 
 public:
     // Without a probe the engine makes its own, to 127.0.0.1:22.
-    explicit DiagnosticEngine(ServerManager *serverManager, std::shared_ptr<SshProbe> probe = {},
+    explicit DiagnosticEngine(ServerRunning serverRunning, std::shared_ptr<SshProbe> probe = {},
                               DiagnosticSystem system = DiagnosticSystem::real(),
                               QObject *parent = nullptr);
     ~DiagnosticEngine() override;
@@ -50,7 +48,7 @@ private:
     QList<DiagnosticCheck> m_checks;
     bool m_isRunning = false;
     int m_pending = 0;
-    QPointer<ServerManager> m_serverManager;
+    ServerRunning m_serverRunning;
     std::shared_ptr<SshProbe> m_probe;
     DiagnosticSystem m_system;
     // The machine's addresses as the last run of all checks saw them: the network checks and

@@ -1,6 +1,7 @@
 #include "onboarding/onboardingflow.h"
 
 #include "app/quivramacapp.h"
+#include "platform/autostart.h"
 #include "server/servermanager.h"
 
 OnboardingFlow::OnboardingFlow(ServerManager *serverManager, QuivraMacApp *app, QObject *parent)
@@ -61,11 +62,9 @@ void OnboardingFlow::startPairing()
 {
     if (!m_serverManager)
         return;
-    // Every switch to pairing issues a fresh code with its own five minutes.
-    if (m_serverManager->isPairing())
-        m_serverManager->renewPairingToken();
-    else
-        m_serverManager->togglePairingMode();
+    // Silently, unlike the user's switch: a fresh code with its own five minutes, the address
+    // left as it is and nothing logged.
+    m_serverManager->pairingSession().switchOn();
     waitForDevice();
 }
 
@@ -73,7 +72,7 @@ void OnboardingFlow::renewCode()
 {
     if (!m_serverManager)
         return;
-    m_serverManager->renewPairingToken();
+    m_serverManager->pairingSession().renew();
     waitForDevice();
 }
 
@@ -108,5 +107,6 @@ void OnboardingFlow::finish()
 {
     if (m_app)
         m_app->setHasCompletedOnboarding(true);
+    platform::applyLaunchAtLoginPreference();
     Q_EMIT dismiss();
 }

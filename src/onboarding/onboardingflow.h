@@ -56,7 +56,7 @@ public:
     Q_INVOKABLE void pairingBack() { setStep(SystemCheck); }
     // From the system check: pairing mode on with a fresh code and a fresh five minutes.
     Q_INVOKABLE void startPairing();
-    // "Try Again" and the countdown's end: a new code; pairing mode is left as it is.
+    // "Try Again" and the countdown's end: a new code, and pairing back on if it had expired.
     Q_INVOKABLE void renewCode();
     // "Done": onboarding is recorded as complete, then the window closes.
     Q_INVOKABLE void finish();

@@ -2,21 +2,30 @@
 
 #include "pairing/requestparsing.h"
 #include "platform/console.h"
+#include "platform/socketreset.h"
 
 #include <QStringDecoder>
 #include <QTcpSocket>
 
 PairingConnection::PairingConnection(QTcpSocket *socket, std::chrono::milliseconds readDeadline)
     : m_socket(socket)
+    , m_resetWatch(socket->socketDescriptor())
     , m_readDeadline(readDeadline)
 {
     m_socket->setParent(this);
     connect(m_socket, &QTcpSocket::readyRead, this, &PairingConnection::onReadyRead);
     connect(m_socket, &QTcpSocket::disconnected, this, [this] {
-        if (m_reading)
+        if (m_reading && m_buffer.isEmpty() && m_resetWatch.wasReset())
+            receiveFailed(QStringLiteral("Connection reset by peer"));
+        else if (m_reading)
             finishReading();
         else
             close();
+    });
+    connect(m_socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
+        // The end of the stream arrives as an error too; what was read still counts.
+        if (m_reading && error != QAbstractSocket::RemoteHostClosedError)
+            receiveFailed(m_socket->errorString());
     });
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, &PairingConnection::finishReading);
@@ -72,12 +81,19 @@ bool PairingConnection::requestComplete() const
     return m_buffer.size() >= headerEnd + 4 + bodyLength;
 }
 
+void PairingConnection::receiveFailed(const QString &error)
+{
+    console::line(QStringLiteral("[PairingListener] Receive error: ") + error);
+    close();
+}
+
 void PairingConnection::finishReading()
 {
     if (!m_reading)
         return;
     m_reading = false;
     m_deadline.stop();
+    m_resetWatch.release();
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString request = decoder.decode(m_buffer);
     if (m_buffer.isEmpty() || decoder.hasError()) {
@@ -118,6 +134,7 @@ void PairingConnection::close()
         return;
     m_closed = true;
     m_reading = false;
+    m_resetWatch.release();
     m_deadline.stop();
     console::line(QStringLiteral("[PairingListener] Connection state: cancelled"));
     Q_EMIT closed();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/socketreset.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QTimer>
@@ -42,9 +44,11 @@ private:
     void onReadyRead();
     bool requestComplete() const;
     void finishReading();
+    void receiveFailed(const QString &error);
     void send(const QByteArray &reply);
 
     QTcpSocket *m_socket;
+    platform::SocketResetWatch m_resetWatch;
     QByteArray m_buffer;
     QTimer m_deadline;
     QTimer m_lingerLimit;

@@ -4,17 +4,15 @@
 #include "net/hostlabel.h"
 #include "pairing/pairingconnection.h"
 #include "platform/console.h"
-#include "server/servermanager.h"
 
 #include <QTcpSocket>
 
 #include <utility>
 
-PairingListener::PairingListener(ServerManager *owner)
-    : m_serverManager(owner)
-    , m_sshProbe(owner ? std::make_shared<SshProbe>(owner->environment().sshHost,
-                                                    owner->environment().sshPort)
-                       : std::make_shared<SshProbe>())
+PairingListener::PairingListener(Setup setup, QObject *parent)
+    : QObject(parent)
+    , m_setup(std::move(setup))
+    , m_sshProbe(std::make_shared<SshProbe>(m_setup.sshHost, m_setup.sshPort))
 {
     // Taken on the loop's next turn rather than at once: QTcpServer accepts for as long as
     // connections keep arriving, which under a flood would hold the main loop indefinitely. Left
@@ -40,11 +38,6 @@ PairingListener::PairingListener(ServerManager *owner)
     });
 }
 
-ServerManager *PairingListener::serverManager() const
-{
-    return m_serverManager;
-}
-
 PairingListener::~PairingListener()
 {
     stop();
@@ -65,7 +58,9 @@ void PairingListener::start(quint16 port, bool advertise)
         return;
     }
     const QString name = QStringLiteral("QuivraMac-") + net::hostLabel();
+    bool advertising = true;
     if (advertise && !m_advertiser.advertise(name, QStringLiteral("_quivra-terminal._tcp"), port)) {
+        advertising = false;
         console::line(QStringLiteral("PairingListener not advertised (%1); phones must be given "
                                      "this computer's address by hand")
                           .arg(m_advertiser.errorString()));
@@ -74,11 +69,12 @@ void PairingListener::start(quint16 port, bool advertise)
     // Readiness is reported after the start line, as the listener's state changes arrive later.
     QMetaObject::invokeMethod(
         this,
-        [this, name] {
+        [this, name, advertising] {
             if (!m_server.isListening())
                 return;
             console::line(QStringLiteral("PairingListener State: ready"));
-            console::line(QStringLiteral("PairingListener advertising as: ") + name);
+            if (advertising)
+                console::line(QStringLiteral("PairingListener advertising as: ") + name);
         },
         Qt::QueuedConnection);
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "diagnostics/checks.h"
 #include "pairing/pairingconnection.h"
 #include "pairing/pairingresult.h"
+#include "pairing/pairingsession.h"
 #include "platform/dnssdadvertiser.h"
 
 #include <QHash>
@@ -12,7 +14,6 @@
 #include <functional>
 #include <memory>
 
-class ServerManager;
 class SshProbe;
 
 // The phone-facing TCP service on the pairing port, advertised by DNS-SD as
@@ -26,7 +27,17 @@ public:
     static constexpr int maxConnectionsPerAddress = 4;
     static constexpr int maxStatusRequestsInProgress = 4;
 
-    explicit PairingListener(ServerManager *owner);
+    // What a request is judged against and what the status report reads.
+    struct Setup
+    {
+        QPointer<PairingSession> session;
+        ServerRunning serverRunning;
+        DiagnosticSystem diagnostics = DiagnosticSystem::real();
+        QString sshHost = QStringLiteral("127.0.0.1");
+        quint16 sshPort = 22;
+    };
+
+    explicit PairingListener(Setup setup, QObject *parent = nullptr);
     ~PairingListener() override;
 
     // Listens on all interfaces and, unless told otherwise, registers with the DNS-SD daemon.
@@ -36,9 +47,6 @@ public:
     quint16 port() const { return m_port; }
     // How long a connection may take to send its request (tests shorten it).
     void setReadDeadline(std::chrono::milliseconds deadline) { m_readDeadline = deadline; }
-    // The owner, or nullptr once it is gone.
-    ServerManager *serverManager() const;
-
     // Set by the owner before start(). The key callback answers whether the key is stored.
     std::function<bool(const QString &publicKey)> onKeyReceived;
     std::function<void(const PairingResult &result)> onPairingSuccess;
@@ -59,7 +67,7 @@ private:
     bool m_acceptScheduled = false;
     platform::DnsSdAdvertiser m_advertiser;
     quint16 m_port = 8080;
-    QPointer<ServerManager> m_serverManager;
+    Setup m_setup;
     QHash<QString, int> m_connectionsPerAddress;
     // Open connections, oldest first.
     QList<PairingConnection *> m_connections;

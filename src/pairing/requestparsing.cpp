@@ -29,8 +29,8 @@ std::optional<QString> headerValue(const QString &name, const QString &request)
 
 QString body(const QString &request)
 {
-    const qsizetype blank = request.lastIndexOf(QStringLiteral("\r\n\r\n"));
-    return blank < 0 ? request : request.mid(blank + 4);
+    // Split left to right, not searched from the end: in "\r\n\r\n\r\n" the last piece is "\r\n".
+    return request.split(QStringLiteral("\r\n\r\n")).constLast();
 }
 
 bool tokenMatches(const QString &requestLine, const QString &token)

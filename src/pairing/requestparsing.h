@@ -14,7 +14,7 @@ QStringList lines(const QString &request);
 // spaces and tabs. An empty value is none, and later lines are not consulted.
 std::optional<QString> headerValue(const QString &name, const QString &request);
 
-// What follows the last blank line, or the whole text when there is none.
+// The last piece of the text split at every blank line, or the whole text when there is none.
 QString body(const QString &request);
 
 // The request line's one "token=" parameter equals the code exactly, compared in constant time.

@@ -5,7 +5,6 @@
 #include "pairing/publickey.h"
 #include "pairing/requestparsing.h"
 #include "platform/console.h"
-#include "server/servermanager.h"
 
 namespace {
 const QString badRequest = QStringLiteral("400 Bad Request");
@@ -35,10 +34,8 @@ void PairingListener::handleStatusRequest(PairingConnection *connection)
         return;
     }
     ++m_statusRequestsInProgress;
-    ServerManager *manager = serverManager();
-    auto *engine = new DiagnosticEngine(
-        manager, m_sshProbe,
-        manager ? manager->environment().diagnostics : DiagnosticSystem::real(), this);
+    auto *engine =
+        new DiagnosticEngine(m_setup.serverRunning, m_sshProbe, m_setup.diagnostics, this);
     connect(engine, &DiagnosticEngine::finished, this,
             [this, engine, connection = QPointer(connection)] {
                 --m_statusRequestsInProgress;
@@ -53,25 +50,25 @@ void PairingListener::handleStatusRequest(PairingConnection *connection)
 void PairingListener::handlePairRequest(const QString &requestLine, const QString &request,
                                         PairingConnection *connection)
 {
-    ServerManager *manager = serverManager();
-    if (!manager) {
+    PairingSession *session = m_setup.session;
+    if (!session) {
         connection->sendResponse(unavailable, serverNotReady);
         return;
     }
-    if (!manager->acceptsPairing()) {
+    if (!session->acceptsPairing()) {
         console::line(QStringLiteral("Pairing Denied: Pairing mode not active"));
         connection->sendResponse(forbidden, QStringLiteral("Pairing mode not active"));
         return;
     }
-    if (requestparsing::comesFromWebPage(request, manager->environment().diagnostics.hostLabel())) {
+    if (requestparsing::comesFromWebPage(request, m_setup.diagnostics.hostLabel())) {
         console::line(QStringLiteral("Pairing Denied: request from a web page"));
-        manager->recordFailedPairingAttempt(connection->peerAddress());
+        session->recordFailedAttempt(connection->peerAddress());
         connection->sendResponse(forbidden, QStringLiteral("Forbidden"));
         return;
     }
-    if (!requestparsing::tokenMatches(requestLine, manager->pairingToken())) {
+    if (!requestparsing::tokenMatches(requestLine, session->token())) {
         console::line(QStringLiteral("Pairing Denied: Invalid Token"));
-        manager->recordFailedPairingAttempt(connection->peerAddress());
+        session->recordFailedAttempt(connection->peerAddress());
         connection->sendResponse(QStringLiteral("401 Unauthorized"),
                                  QStringLiteral("Invalid Token"));
         return;

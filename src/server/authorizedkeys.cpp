@@ -12,48 +12,76 @@
 namespace authorizedkeys {
 namespace {
 
-QString systemError(const QString &what)
+Problem failure(const QString &what)
 {
-    return what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno));
+    return { false, what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno)) };
 }
 
-// ~/.ssh must be a real directory of ours: a link could send the key anywhere.
-std::optional<QString> prepareDirectory(const QByteArray &dir)
+Problem refusal(const QString &reason)
+{
+    return { true, reason };
+}
+
+QString octalMode(mode_t mode)
+{
+    return QString::number(mode & 07777, 8);
+}
+
+// ~/.ssh must be a directory only this user can change: anyone else could read or swap the keys.
+// A link the user made to such a directory (dotfile managers do) is followed.
+std::optional<Problem> prepareDirectory(const QByteArray &dir)
 {
     struct stat info
     {
     };
     if (::lstat(dir.constData(), &info) != 0) {
         if (errno != ENOENT)
-            return systemError(QStringLiteral("Cannot inspect ~/.ssh"));
+            return failure(QStringLiteral("Cannot inspect ~/.ssh"));
         if (::mkdir(dir.constData(), 0700) != 0 || ::chmod(dir.constData(), 0700) != 0)
-            return systemError(QStringLiteral("Cannot create ~/.ssh"));
+            return failure(QStringLiteral("Cannot create ~/.ssh"));
         return std::nullopt;
     }
-    if (S_ISLNK(info.st_mode))
-        return QStringLiteral("~/.ssh is a symbolic link; refusing to follow it");
+    if (S_ISLNK(info.st_mode)) {
+        if (info.st_uid != ::getuid())
+            return refusal(QStringLiteral("~/.ssh is a link owned by someone else; replace it "
+                                          "with a directory of your own"));
+        if (::stat(dir.constData(), &info) != 0)
+            return failure(QStringLiteral("Cannot follow the link ~/.ssh"));
+    }
     if (!S_ISDIR(info.st_mode))
-        return QStringLiteral("~/.ssh is not a directory");
+        return refusal(QStringLiteral("~/.ssh is not a directory; move it aside"));
     if (info.st_uid != ::getuid())
-        return QStringLiteral("~/.ssh is not owned by you");
+        return refusal(QStringLiteral("~/.ssh is owned by someone else (uid %1); fix with "
+                                      "chown $USER ~/.ssh")
+                           .arg(info.st_uid));
+    if (info.st_mode & (S_IWGRP | S_IWOTH))
+        return refusal(QStringLiteral("~/.ssh is writable by others (mode %1); fix with "
+                                      "chmod 700 ~/.ssh")
+                           .arg(octalMode(info.st_mode)));
     return std::nullopt;
 }
 
-std::optional<QString> checkOpenedFile(int fd)
+std::optional<Problem> checkOpenedFile(int fd)
 {
     struct stat info
     {
     };
     if (::fstat(fd, &info) != 0)
-        return systemError(QStringLiteral("Cannot inspect authorized_keys"));
+        return failure(QStringLiteral("Cannot inspect authorized_keys"));
     if (!S_ISREG(info.st_mode))
-        return QStringLiteral("authorized_keys is not a regular file");
+        return refusal(QStringLiteral("~/.ssh/authorized_keys is not a regular file; move it "
+                                      "aside"));
     if (info.st_uid != ::getuid())
-        return QStringLiteral("authorized_keys is not owned by you");
+        return refusal(QStringLiteral("~/.ssh/authorized_keys is owned by someone else (uid "
+                                      "%1); fix with chown $USER ~/.ssh/authorized_keys")
+                           .arg(info.st_uid));
     if (info.st_nlink != 1)
-        return QStringLiteral("authorized_keys has other hard links");
+        return refusal(QStringLiteral("~/.ssh/authorized_keys has other hard links; replace it "
+                                      "with a copy of its own"));
     if (info.st_mode & (S_IWGRP | S_IWOTH))
-        return QStringLiteral("authorized_keys is writable by others");
+        return refusal(QStringLiteral("~/.ssh/authorized_keys is writable by others (mode %1); "
+                                      "fix with chmod 600 ~/.ssh/authorized_keys")
+                           .arg(octalMode(info.st_mode)));
     return std::nullopt;
 }
 
@@ -84,7 +112,7 @@ QByteArray entry(const QString &publicKey, const QDate &date)
         .toUtf8();
 }
 
-std::optional<QString> install(const QString &home, const QString &publicKey, const QDate &date)
+std::optional<Problem> install(const QString &home, const QString &publicKey, const QDate &date)
 {
     const QByteArray dir = QFile::encodeName(home + QStringLiteral("/.ssh"));
     const QByteArray path = dir + "/authorized_keys";
@@ -99,23 +127,26 @@ std::optional<QString> install(const QString &home, const QString &publicKey, co
         ::open(path.constData(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (fd < 0) {
         return errno == ELOOP
-            ? QStringLiteral("authorized_keys is a symbolic link; refusing to follow it")
-            : systemError(QStringLiteral("Cannot open authorized_keys"));
+            ? refusal(QStringLiteral("~/.ssh/authorized_keys is a symbolic link; replace it "
+                                     "with the file it points to"))
+            : failure(QStringLiteral("Cannot open authorized_keys"));
     }
     auto error = checkOpenedFile(fd);
     if (!error && !existed && ::fchmod(fd, 0600) != 0)
-        error = systemError(QStringLiteral("Cannot set the mode of authorized_keys"));
+        error = failure(QStringLiteral("Cannot set the mode of authorized_keys"));
     if (!error && !alreadyPresent(path, publicKey)) {
         const QByteArray bytes = entry(publicKey, date);
         const ssize_t written = ::write(fd, bytes.constData(), size_t(bytes.size()));
         if (written != ssize_t(bytes.size()))
-            error = written < 0 ? systemError(QStringLiteral("Cannot write authorized_keys"))
-                                : QStringLiteral("Cannot write authorized_keys: the disk is full");
+            error = written < 0
+                ? failure(QStringLiteral("Cannot write authorized_keys"))
+                : Problem { false,
+                            QStringLiteral("Cannot write authorized_keys: the disk is full") };
         else if (::fsync(fd) != 0)
-            error = systemError(QStringLiteral("Cannot flush authorized_keys to disk"));
+            error = failure(QStringLiteral("Cannot flush authorized_keys to disk"));
     }
     if (::close(fd) != 0 && !error)
-        error = systemError(QStringLiteral("Cannot close authorized_keys"));
+        error = failure(QStringLiteral("Cannot close authorized_keys"));
     return error;
 }
 

@@ -11,10 +11,18 @@ namespace authorizedkeys {
 // from a last line that lacks its own.
 QByteArray entry(const QString &publicKey, const QDate &date);
 
+// Why a key was not stored: a refusal names something unsafe the user can fix; anything else
+// is the system's error.
+struct Problem
+{
+    bool refused = false;
+    QString text;
+};
+
 // Appends the entry for `publicKey` to {home}/.ssh/authorized_keys, creating ~/.ssh (0700) and
 // the file (0600) when missing. Existing content is never truncated or replaced: the file is
 // opened for appending without following links, written in one call and fsync'd. A key that is
-// already there (same type and base64) is not added again. Returns an error text on failure.
-std::optional<QString> install(const QString &home, const QString &publicKey, const QDate &date);
+// already there (same type and base64) is not added again.
+std::optional<Problem> install(const QString &home, const QString &publicKey, const QDate &date);
 
 } // namespace authorizedkeys

@@ -2,6 +2,7 @@
 
 #include "diagnostics/checks.h"
 #include "net/localaddress.h"
+#include "pairing/pairingsession.h"
 #include "platform/bundlepaths.h"
 #include "platform/processtable.h"
 
@@ -25,7 +26,7 @@ struct ServerEnvironment
     // Whether the pairing listener registers itself with the DNS-SD daemon.
     bool advertise = true;
     // Measures the pairing code's lifetime; tests move it forward.
-    std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
+    PairingSession::Clock now = std::chrono::system_clock::now;
     // What the status report's checks read, and where the SSH daemon is probed.
     DiagnosticSystem diagnostics = DiagnosticSystem::real();
     QString sshHost = QStringLiteral("127.0.0.1");

@@ -21,14 +21,17 @@ const QString serverFifo = QStringLiteral("/tmp/et.fifo");
 ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_env(std::move(environment))
+    , m_pairing(m_env.now)
 {
+    connect(&m_pairing, &PairingSession::isPairingChanged, this, &ServerManager::isPairingChanged);
+    connect(&m_pairing, &PairingSession::tokenChanged, this, &ServerManager::pairingTokenChanged);
+    connect(&m_pairing, &PairingSession::expiresAtChanged, this,
+            &ServerManager::pairingExpiresAtChanged);
+    connect(&m_pairing, &PairingSession::message, this, &ServerManager::log);
     m_uptimeTimer.setInterval(m_env.uptimeInterval);
     connect(&m_uptimeTimer, &QTimer::timeout, this, [this] { setUptime(m_uptime + 1.0); });
-    m_pairingExpiry.setSingleShot(true);
-    connect(&m_pairingExpiry, &QTimer::timeout, this, &ServerManager::acceptsPairing);
 
     setLocalIP(m_env.localIP());
-    setPairingToken(generatePairingToken());
     userdefaults::registerDefaults({ { QStringLiteral("autoStartServer"), true } });
     cleanupOrphanedServers();
     if (auto *app = QCoreApplication::instance())
@@ -229,24 +232,6 @@ void ServerManager::setUptime(double uptime)
         return;
     m_uptime = uptime;
     Q_EMIT uptimeChanged();
-}
-
-void ServerManager::setPairing(bool pairing)
-{
-    if (pairing == m_isPairing)
-        return;
-    m_isPairing = pairing;
-    if (!pairing)
-        m_pairingExpiry.stop();
-    Q_EMIT isPairingChanged();
-}
-
-void ServerManager::setPairingToken(const QString &token)
-{
-    if (token == m_pairingToken)
-        return;
-    m_pairingToken = token;
-    Q_EMIT pairingTokenChanged();
 }
 
 void ServerManager::setLastPairedDevice(const QString &name)

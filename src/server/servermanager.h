@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pairing/pairinglistener.h"
+#include "pairing/pairingsession.h"
 #include "server/serverenvironment.h"
 #include "server/serverlog.h"
 
@@ -25,6 +26,9 @@ class ServerManager : public QObject
     Q_PROPERTY(bool isPairing READ isPairing NOTIFY isPairingChanged)
     Q_PROPERTY(QString logs READ logs WRITE setLogs NOTIFY logsChanged)
     Q_PROPERTY(QString lastPairedDevice READ lastPairedDevice NOTIFY lastPairedDeviceChanged)
+    Q_PROPERTY(PairingSession *pairingSession READ pairingSessionObject CONSTANT)
+    // When the current code expires, in milliseconds since the epoch.
+    Q_PROPERTY(qint64 pairingExpiresAt READ pairingExpiresAt NOTIFY pairingExpiresAtChanged)
 
 public:
     explicit ServerManager(ServerEnvironment environment = {}, QObject *parent = nullptr);
@@ -33,9 +37,10 @@ public:
     bool isRunning() const { return m_isRunning; }
     double uptime() const { return m_uptime; }
     int port() const { return m_port; }
-    QString pairingToken() const { return m_pairingToken; }
+    QString pairingToken() const { return m_pairing.token(); }
     QString localIP() const { return m_localIP; }
-    bool isPairing() const { return m_isPairing; }
+    bool isPairing() const { return m_pairing.isPairing(); }
+    qint64 pairingExpiresAt() const { return m_pairing.expiresAt(); }
     QString logs() const { return m_log.text(); }
     // Empty until the first phone pairs.
     QString lastPairedDevice() const { return m_lastPairedDevice; }
@@ -57,18 +62,12 @@ public:
     QString pidFilePath() const;
     QStringList serverArguments() const;
 
-    static constexpr int maxFailedPairingAttempts = 5;
-    static constexpr std::chrono::seconds pairingCodeLifetime { 300 };
-
-    // Every switch to on issues a fresh code that expires after pairingCodeLifetime.
+    // The user's switch: on refreshes the address and issues a fresh code, and both ways log.
     Q_INVOKABLE void togglePairingMode();
-    // A fresh code and a fresh lifetime, pairing mode left as it is.
-    Q_INVOKABLE void renewPairingToken();
-    static QString generatePairingToken();
-    // Pairing mode is on and its code has not expired; an expired code switches it off.
-    bool acceptsPairing();
-    // A wrong code or a request from a web page; the last allowed one switches pairing off.
-    void recordFailedPairingAttempt(const QString &address);
+    static QString generatePairingToken() { return PairingSession::generateToken(); }
+    // Pairing mode itself; the onboarding switches and renews through it directly, silently.
+    PairingSession &pairingSession() { return m_pairing; }
+    PairingSession *pairingSessionObject() { return &m_pairing; }
     void startPairingListener();
     void stopPairingListener();
     // Appends the phone's key to ~/.ssh/authorized_keys; false (and a logged reason) on failure.
@@ -88,6 +87,7 @@ Q_SIGNALS:
     void isPairingChanged();
     void logsChanged();
     void lastPairedDeviceChanged();
+    void pairingExpiresAtChanged();
 
 private:
     void log(const QString &message);
@@ -97,28 +97,20 @@ private:
 
     void setRunning(bool running);
     void setUptime(double uptime);
-    void setPairing(bool pairing);
-    void setPairingToken(const QString &token);
     void setLocalIP(const QString &address);
     void setLastPairedDevice(const QString &name);
-    void issuePairingToken();
 
     ServerEnvironment m_env;
 
     bool m_isRunning = false;
     double m_uptime = 0;
     int m_port = 2022;
-    QString m_pairingToken;
     QString m_localIP = QStringLiteral("127.0.0.1");
-    bool m_isPairing = false;
+    PairingSession m_pairing;
     ServerLog m_log;
     QString m_lastPairedDevice;
 
     QTimer m_uptimeTimer;
-    QTimer m_pairingExpiry;
-    std::chrono::steady_clock::time_point m_pairingIssuedAt;
-    int m_failedPairingAttempts = 0;
-    QStringList m_failedPairingAddresses;
     // Both may be dropped from inside their own signal handlers.
     struct DeleteLater
     {

@@ -1,13 +1,24 @@
 #include "ui/pairingcountdown.h"
 
+#include "pairing/pairingsession.h"
 #include "ui/formats.h"
 
-PairingCountdown::PairingCountdown(QObject *parent, bool ownTimer)
+#include <utility>
+
+namespace {
+bool s_manualTicks = false;
+}
+
+PairingCountdown::PairingCountdown(QObject *parent)
     : QObject(parent)
-    , m_ownTimer(ownTimer)
 {
     m_timer.setInterval(1000);
     connect(&m_timer, &QTimer::timeout, this, &PairingCountdown::tick);
+}
+
+void PairingCountdown::manualTicks(bool manual)
+{
+    s_manualTicks = manual;
 }
 
 QString PairingCountdown::text() const
@@ -15,43 +26,52 @@ QString PairingCountdown::text() const
     return formats::countdown(m_timeRemaining);
 }
 
-void PairingCountdown::start()
+void PairingCountdown::setSession(PairingSession *session)
 {
-    m_timeRemaining = duration;
-    Q_EMIT timeRemainingChanged();
-    setActive(true);
-    if (m_ownTimer)
-        m_timer.start();
+    if (session == m_session)
+        return;
+    if (m_session)
+        disconnect(m_session, nullptr, this, nullptr);
+    m_session = session;
+    // A code renewed elsewhere shows at once, not a second later.
+    if (m_session)
+        connect(m_session, &PairingSession::expiresAtChanged, this, &PairingCountdown::refresh);
+    refresh();
+    Q_EMIT sessionChanged();
 }
 
-void PairingCountdown::stop()
+void PairingCountdown::setRunning(bool running)
 {
-    m_timer.stop();
-    setActive(false);
-}
-
-void PairingCountdown::requestStop()
-{
-    stop();
-    Q_EMIT stopPairing();
+    if (running == m_running)
+        return;
+    m_running = running;
+    if (running) {
+        refresh();
+        if (!s_manualTicks)
+            m_timer.start();
+    } else {
+        m_timer.stop();
+    }
+    Q_EMIT runningChanged();
 }
 
 void PairingCountdown::tick()
 {
-    if (!m_active)
+    if (!m_running)
         return;
-    if (m_timeRemaining > 0) {
-        m_timeRemaining -= 1;
-        Q_EMIT timeRemainingChanged();
-    } else {
-        requestStop();
-    }
+    const bool showedZero = m_timeRemaining == 0;
+    refresh();
+    if (showedZero && m_timeRemaining == 0 && !std::exchange(m_expiryAnnounced, true))
+        Q_EMIT expired();
 }
 
-void PairingCountdown::setActive(bool active)
+void PairingCountdown::refresh()
 {
-    if (m_active == active)
+    const int left = m_session ? m_session->secondsLeft() : 0;
+    if (left > 0)
+        m_expiryAnnounced = false;
+    if (left == m_timeRemaining)
         return;
-    m_active = active;
-    Q_EMIT activeChanged();
+    m_timeRemaining = left;
+    Q_EMIT timeRemainingChanged();
 }

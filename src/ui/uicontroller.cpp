@@ -53,16 +53,8 @@ void UiController::setLaunchAtLogin(bool on)
     if (on == launchAtLogin())
         return;
     userdefaults::setValue(launchAtLoginKey, on);
-    applyLaunchAtLogin();
+    platform::applyLaunchAtLoginPreference();
     Q_EMIT launchAtLoginChanged();
-}
-
-void UiController::applyLaunchAtLogin()
-{
-    userdefaults::registerDefaults({ { launchAtLoginKey, true } });
-    QString error;
-    if (!platform::setLaunchAtLogin(userdefaults::boolValue(launchAtLoginKey), &error))
-        console::line(QStringLiteral("Launch at login not changed: ") + error);
 }
 
 void UiController::toggleServer()

@@ -27,8 +27,6 @@ public:
     bool launchAtLogin() const;
     // Stored under "launchAtLogin" and applied at once.
     void setLaunchAtLogin(bool on);
-    // At start-up: the login entry follows the stored preference (default on).
-    static void applyLaunchAtLogin();
 
     // Decides on the server's state at the moment of the call: stopped starts, running stops.
     Q_INVOKABLE void toggleServer();

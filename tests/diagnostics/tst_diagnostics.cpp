@@ -92,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(checks::tailscale({ lan }, true).message,
                  "Tailscale is installed but not connected");
         QCOMPARE(checks::tailscale({ lan, tailnet }, false), DiagnosticStatus::passed());
-        QCOMPARE(checks::server(nullptr).message, "Server manager not available");
+        QCOMPARE(checks::server(std::nullopt).message, "Server manager not available");
     }
 
     void sshProbeGivesOneVerdictQuickly()

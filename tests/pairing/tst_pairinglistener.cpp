@@ -1,11 +1,14 @@
 #include "dnssddaemon.h"
 #include "net/hostlabel.h"
 #include "pairing/pairinglistener.h"
+#include "pairingfixture.h"
 #include "phoneclient.h"
 #include "testsupport.h"
 
 #include <QNetworkProxy>
 #include <QTcpSocket>
+
+#include <sys/socket.h>
 
 using testsupport::exchange;
 
@@ -20,7 +23,7 @@ private Q_SLOTS:
     void init()
     {
         m_port = testsupport::freeTcpPort();
-        m_listener = std::make_unique<PairingListener>(nullptr);
+        m_listener = std::make_unique<PairingListener>(PairingListener::Setup {});
         m_listener->start(m_port, false);
         QVERIFY(m_listener->isListening());
     }
@@ -41,6 +44,46 @@ private Q_SLOTS:
                                 "[PairingListener] Connection state: cancelled" }));
         QVERIFY(exchange(m_port, "GET /elsewhere HTTP/1.1\r\n\r\n")
                     .startsWith("HTTP/1.1 404 Not Found"));
+
+        // A phone that resets the connection before sending anything.
+        QTcpSocket phone;
+        phone.setProxy(QNetworkProxy::NoProxy);
+        phone.connectToHost(QHostAddress::LocalHost, m_port);
+        QVERIFY(phone.waitForConnected(5000));
+        const auto accepted = [&] {
+            return console.lines().filter("New connection from 127.0.0.1").size() == 3;
+        };
+        QTRY_VERIFY(accepted());
+        const linger reset { 1, 0 };
+        ::setsockopt(int(phone.socketDescriptor()), SOL_SOCKET, SO_LINGER, &reset, sizeof reset);
+        phone.abort();
+        QTRY_VERIFY2(
+            console.lines().contains("[PairingListener] Receive error: Connection reset by peer"),
+            qPrintable(console.lines().join('\n')));
+    }
+
+    // The listener stands on its own: a session to judge against and a key installer.
+    void pairsWithASessionAndAKeyInstallerAlone()
+    {
+        PairingSession session;
+        QStringList installed;
+        PairingListener listener({ &session });
+        listener.onKeyReceived = [&](const QString &key) {
+            installed.append(key);
+            return true;
+        };
+        const quint16 port = testsupport::freeTcpPort();
+        listener.start(port, false);
+        const QByteArray key = testsupport::ed25519Key();
+        const auto pair = [&](const QString &token) {
+            return testsupport::replyBody(
+                exchange(port, "POST /pair?token=" + token.toLatin1() + " HTTP/1.1\r\n\r\n" + key));
+        };
+        QCOMPARE(pair(session.token()), "Pairing mode not active");
+        session.switchOn();
+        QCOMPARE(pair(session.token() == "000000" ? "000001" : "000000"), "Invalid Token");
+        QCOMPARE(pair(session.token()), "Paired Successfully");
+        QCOMPARE(installed, QStringList { key });
     }
 
     void printsStartOfEveryRequest()
@@ -59,7 +102,7 @@ private Q_SLOTS:
     void startFailsOnTakenPort()
     {
         testsupport::ConsoleCapture console;
-        PairingListener second(nullptr);
+        PairingListener second({});
         second.start(m_port, false);
         QVERIFY(!second.isListening());
         QCOMPARE(second.port(), m_port);
@@ -99,7 +142,7 @@ private Q_SLOTS:
         testsupport::DnsSdDaemon daemon;
         if (const QString reason = daemon.ensureRunning(); !reason.isEmpty())
             QSKIP(qPrintable("DNS-SD not testable here: " + reason));
-        PairingListener listener(nullptr);
+        PairingListener listener({});
         QSignalSpy advertised(&listener, &PairingListener::advertised);
         const quint16 port = testsupport::freeTcpPort();
         listener.start(port);

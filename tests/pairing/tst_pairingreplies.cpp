@@ -123,7 +123,7 @@ private Q_SLOTS:
                  plain("400 Bad Request", "Invalid Key Format"));
         QVERIFY(m_fixture->manager().isPairing());
 
-        PairingListener orphaned(nullptr);
+        PairingListener orphaned({});
         const quint16 orphanedPort = testsupport::freeTcpPort();
         orphaned.start(orphanedPort, false);
         QCOMPARE(exchange(orphanedPort, PairingFixture::pairRequest(code, key)),

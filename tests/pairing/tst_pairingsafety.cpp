@@ -82,7 +82,7 @@ private Q_SLOTS:
             refused += body == notActive || reply.isEmpty();
         }
         // Connections beyond the listener's bounds are closed unanswered: they guess nothing.
-        QCOMPARE(judged, ServerManager::maxFailedPairingAttempts);
+        QCOMPARE(judged, PairingSession::maxFailedAttempts);
         QCOMPARE(judged + refused, 100);
         QVERIFY(!m_fixture->manager().isPairing());
         QCOMPARE(pairWith(ed25519Key()), notActive);

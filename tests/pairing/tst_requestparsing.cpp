@@ -18,6 +18,8 @@ private Q_SLOTS:
         QCOMPARE(body(request), "key");
         QCOMPARE(body("no blank line"), "no blank line");
         QCOMPARE(body("ends in a blank line\r\n\r\n"), "");
+        QCOMPARE(body("a\r\n\r\n\r\n"),
+                 "\r\n"); // split left to right: the last piece is a line end
         // A bare LF separates nothing.
         QCOMPARE(headerValue("B", "A: 1\nB: 2"), std::nullopt);
     }

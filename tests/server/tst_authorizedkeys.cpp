@@ -57,9 +57,11 @@ class TestAuthorizedKeys : public QObject
     const QDate today = QDate(2026, 11, 23);
     QByteArray entryA() const { return authorizedkeys::entry(keyA, today); }
 
+    // The refusal's or failure's text, or none.
     std::optional<QString> install(const QString &key)
     {
-        return authorizedkeys::install(QDir::homePath(), key, today);
+        const auto problem = authorizedkeys::install(QDir::homePath(), key, today);
+        return problem ? std::optional(problem->text) : std::nullopt;
     }
 
 private Q_SLOTS:
@@ -104,13 +106,21 @@ private Q_SLOTS:
 
         QFile::remove(keysFile());
         write(keysFile(), "original\n", 0664);
-        QVERIFY(install(keyA).value_or("").contains("writable by others"));
+        QCOMPARE(install(keyA).value_or(""),
+                 "~/.ssh/authorized_keys is writable by others (mode 664); fix with chmod 600 "
+                 "~/.ssh/authorized_keys");
         QCOMPARE(contents(keysFile()), "original\n");
 
+        // A link of the user's own to a private directory, as dotfile managers make, is
+        // followed; one to a directory others can write to is not.
         QDir(sshDir()).removeRecursively();
         QVERIFY(QFile::link(elsewhere.path(), sshDir()));
-        QVERIFY(install(keyA).value_or("").contains("symbolic link"));
+        ::chmod(QFile::encodeName(elsewhere.path()).constData(), 0777);
+        QVERIFY(install(keyA).value_or("").contains("~/.ssh is writable by others (mode 777)"));
         QVERIFY(!QFile::exists(elsewhere.filePath("authorized_keys")));
+        ::chmod(QFile::encodeName(elsewhere.path()).constData(), 0700);
+        QCOMPARE(install(keyA).value_or("ok"), "ok");
+        QCOMPARE(contents(elsewhere.filePath("authorized_keys")), entryA());
     }
 
     void acceptedPairingInstallsKeyAndEndsPairing()
@@ -151,8 +161,10 @@ private Q_SLOTS:
         QVERIFY(!manager.pairingListener()->onKeyReceived(keyA));
         QVERIFY(manager.isPairing());
         QVERIFY(manager.pairingListener());
-        QCOMPARE(console.lines(), QStringList { "Failed to save key: ~/.ssh is not a directory" });
-        QVERIFY(manager.logs().endsWith("[QuivraMac] Pairing failed: ~/.ssh is not a directory\n"));
+        QCOMPARE(console.lines(),
+                 QStringList { "Not installing key: ~/.ssh is not a directory; move it aside" });
+        QVERIFY(manager.logs().endsWith(
+            "[QuivraMac] Not installing key: ~/.ssh is not a directory; move it aside\n"));
         manager.stopServer();
     }
 };

@@ -20,7 +20,7 @@ PairingFixture::PairingFixture()
                         [] { return false; }, [] { return QStringLiteral("tester"); },
                         [] { return QString::fromLatin1(hostLabel); } };
     env.sshPort = m_sshd.serverPort();
-    env.now = [offset = m_offset] { return std::chrono::steady_clock::now() + *offset; };
+    env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
     m_port = env.pairingPort;
     m_manager = std::make_unique<ServerManager>(std::move(env));
     if (!m_manager->isRunning())

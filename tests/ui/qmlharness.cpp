@@ -4,6 +4,7 @@
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
 #include "platform/userdefaults.h"
+#include "ui/pairingcountdown.h"
 #include "ui/symbolprovider.h"
 #include "ui/uicontroller.h"
 #include "ui/windowmanager.h"
@@ -28,6 +29,8 @@ QmlHarness::QmlHarness()
     userdefaults::setValue(QStringLiteral("autoStartServer"), false);
     ServerEnvironment env = environment(m_processes);
     env.localIP = [] { return QStringLiteral("192.168.1.20"); };
+    env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
+    PairingCountdown::manualTicks(true);
     m_manager = std::make_unique<ServerManager>(std::move(env));
     m_app = std::make_unique<QuivraMacApp>();
     m_sshd.listen(QHostAddress::LocalHost);
@@ -53,6 +56,7 @@ QmlHarness::QmlHarness()
 
 QmlHarness::~QmlHarness()
 {
+    m_otherWindows.clear();
     m_window.reset();
     if (m_manager->isRunning())
         m_manager->stopServer();
@@ -63,23 +67,34 @@ QQuickItem *QmlHarness::show(const QString &viewType)
     m_view = nullptr;
     m_window.reset();
     m_window = std::make_unique<QQuickWindow>();
+    m_view = load(viewType, m_window.get());
+    return m_view;
+}
+
+QQuickItem *QmlHarness::showAlso(const QString &viewType)
+{
+    return load(viewType, &m_otherWindows.emplace_back());
+}
+
+QQuickItem *QmlHarness::load(const QString &viewType, QQuickWindow *window)
+{
     QQmlComponent component(m_engine.get());
     component.setData("import QuivraMac.Ui\n" + viewType.toUtf8() + " {}\n", QUrl());
-    m_view = qobject_cast<QQuickItem *>(component.create());
-    if (!m_view) {
+    auto *view = qobject_cast<QQuickItem *>(component.create());
+    if (!view) {
         qWarning().noquote() << component.errorString();
         return nullptr;
     }
-    m_view->setParent(m_window.get());
-    m_view->setParentItem(m_window->contentItem());
-    QObject::connect(m_view, &QQuickItem::implicitHeightChanged, m_window.get(), [this] {
-        m_window->resize(int(m_view->implicitWidth()), int(m_view->implicitHeight()));
-        m_view->setSize(m_window->size());
+    view->setParent(window);
+    view->setParentItem(window->contentItem());
+    QObject::connect(view, &QQuickItem::implicitHeightChanged, window, [view, window] {
+        window->resize(int(view->implicitWidth()), int(view->implicitHeight()));
+        view->setSize(window->size());
     });
-    m_window->resize(int(m_view->implicitWidth()), int(m_view->implicitHeight()));
-    m_view->setSize(m_window->size());
-    m_window->show();
-    return m_view;
+    window->resize(int(view->implicitWidth()), int(view->implicitHeight()));
+    view->setSize(window->size());
+    window->show();
+    return view;
 }
 
 bool QmlHarness::runOne()

@@ -10,6 +10,8 @@
 #include <QQuickWindow>
 #include <QTcpServer>
 
+#include <list>
+
 class OnboardingFlow;
 class QuivraMacApp;
 class SystemCheck;
@@ -39,6 +41,11 @@ public:
     // Loads one view type of QuivraMac.Ui ("MenuBarView", "SettingsView", "SetupView") into a
     // window of its implicit size and shows it.
     QQuickItem *show(const QString &viewType);
+    // The same in a window of its own, beside the one show() made.
+    QQuickItem *showAlso(const QString &viewType);
+    // Moves the clock the pairing code's lifetime is measured with. Countdowns made by the
+    // harness tick only when a test calls tick().
+    void advanceClock(std::chrono::seconds by) { *m_offset += by; }
     QImage grab();
     QQuickWindow *window() const { return m_window.get(); }
     QQuickItem *view() const { return m_view; }
@@ -52,7 +59,10 @@ public:
     QStringList visibleTexts() const;
 
 private:
+    QQuickItem *load(const QString &viewType, QQuickWindow *window);
+
     std::shared_ptr<GuardedProcessTable> m_processes = std::make_shared<GuardedProcessTable>();
+    std::shared_ptr<std::chrono::seconds> m_offset = std::make_shared<std::chrono::seconds>(0);
     std::unique_ptr<ServerManager> m_manager;
     std::unique_ptr<QuivraMacApp> m_app;
     std::unique_ptr<UiController> m_ui;
@@ -63,6 +73,7 @@ private:
     std::unique_ptr<OnboardingFlow> m_onboarding;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
+    std::list<QQuickWindow> m_otherWindows;
     QQuickItem *m_view = nullptr;
 };
 

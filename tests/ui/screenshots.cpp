@@ -21,10 +21,11 @@ struct Shot
     QSize expected; // zero height: the view's own height
 };
 
-void tick(QmlHarness &h, int times)
+// Four minutes and a second later, as the countdown shows it.
+void lastMinute(QmlHarness &h, const QString &countdownName)
 {
-    auto *countdown = h.find<PairingCountdown>("pairingCountdown");
-    for (int i = 0; countdown && i < times; ++i)
+    h.advanceClock(std::chrono::seconds(241));
+    if (auto *countdown = h.find<PairingCountdown>(countdownName))
         countdown->tick();
 }
 
@@ -92,12 +93,7 @@ int onboardingShots(const QDir &out)
                   runChecksUntil(h, [&] { return check.allPassed(); });
               } },
             { "setup-pairing-waiting", [&] { flow.startPairing(); } },
-            { "setup-pairing-last-minute",
-              [&] {
-                  auto *countdown = h.find<PairingCountdown>("onboardingCountdown");
-                  for (int i = 0; countdown && i < 241; ++i)
-                      countdown->tick();
-              } },
+            { "setup-pairing-last-minute", [&] { lastMinute(h, "onboardingCountdown"); } },
             { "setup-pairing-connecting",
               [&] { flow.showPairingState(Flow::DeviceConnecting, "Ana's iPhone"); } },
             { "setup-error-wrong-code",
@@ -165,7 +161,7 @@ int main(int argc, char *argv[])
           { 280, 0 } },
         { "panel-pairing-last-minute",
           "MenuBarView",
-          [](QmlHarness &h) { tick(h, 241); },
+          [](QmlHarness &h) { lastMinute(h, "pairingCountdown"); },
           { 280, 0 } },
         { "settings-general-running",
           "SettingsView",

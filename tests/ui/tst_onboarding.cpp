@@ -254,8 +254,11 @@ private Q_SLOTS:
 
     void launchAtLoginFollowsThePreference()
     {
+        // Only the user's own choices write the entry: finishing the setup window, the setting.
+        QFile::remove(platform::launchAtLoginEntry());
         UiController ui(&h().manager(), nullptr);
-        UiController::applyLaunchAtLogin();
+        QVERIFY(!QFile::exists(platform::launchAtLoginEntry()));
+        h().onboarding().finish();
         QVERIFY(ui.launchAtLogin()); // on by default
         QFile entry(platform::launchAtLoginEntry());
         QVERIFY(entry.open(QIODevice::ReadOnly));

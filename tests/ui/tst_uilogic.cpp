@@ -23,35 +23,42 @@ private Q_SLOTS:
         QCOMPARE(formats::countdown(0), "0:00");
     }
 
-    void countdownEndsOnceAndStopComesFirst()
+    void countdownRendersTheCodesExpiry()
     {
-        PairingCountdown countdown(nullptr, false);
-        QSignalSpy stopRequests(&countdown, &PairingCountdown::stopPairing);
-        countdown.start();
+        PairingCountdown::manualTicks(true);
+        auto offset = std::make_shared<std::chrono::seconds>(0);
+        PairingSession session([offset] { return std::chrono::system_clock::now() + *offset; });
+        session.switchOn();
+        PairingCountdown countdown;
+        QSignalSpy expired(&countdown, &PairingCountdown::expired);
+        countdown.setSession(&session);
+        countdown.setRunning(true);
         QCOMPARE(countdown.text(), "5:00");
-        for (int i = 0; i < 241; ++i)
-            countdown.tick();
+        *offset += std::chrono::seconds(241);
+        countdown.tick();
         QCOMPARE(countdown.text(), "0:59");
         QVERIFY(countdown.urgent());
-        for (int i = 0; i < 59; ++i)
-            countdown.tick();
+        *offset += std::chrono::seconds(59);
+        countdown.tick();
         QCOMPARE(countdown.text(), "0:00"); // shown for one tick
-        QCOMPARE(stopRequests.size(), 0);
+        QCOMPARE(expired.size(), 0);
         countdown.tick();
-        QCOMPARE(stopRequests.size(), 1);
-        QVERIFY(!countdown.isActive());
         countdown.tick();
-        QCOMPARE(stopRequests.size(), 1);
-
-        // Appearing again starts over; "Stop Pairing" stops before it asks, so no tick asks again.
-        countdown.start();
+        QCOMPARE(expired.size(), 1); // once per code
+        // A code renewed elsewhere shows at once, and its own end is announced again.
+        session.renew();
         QCOMPARE(countdown.text(), "5:00");
-        connect(&countdown, &PairingCountdown::stopPairing, this,
-                [&] { QVERIFY(!countdown.isActive()); });
-        countdown.requestStop();
-        for (int i = 0; i < 400; ++i)
-            countdown.tick();
-        QCOMPARE(stopRequests.size(), 2);
+        *offset += std::chrono::seconds(301);
+        countdown.tick();
+        countdown.tick();
+        QCOMPARE(expired.size(), 2);
+        // Not shown, not ticking.
+        countdown.setRunning(false);
+        session.renew();
+        *offset += std::chrono::seconds(301);
+        countdown.tick();
+        countdown.tick();
+        QCOMPARE(expired.size(), 2);
     }
 
     void toggleDecidesOnTheStateAtCallTime()

@@ -18,20 +18,19 @@ ColumnLayout {
         symbol: "iphone.gen3"
         onClicked: section.startPairing()
     }
-    // Made anew each time pairing turns on, so the countdown starts again at 5:00.
     Loader {
         active: section.isPairing
         visible: active
         Layout.fillWidth: true
         sourceComponent: ColumnLayout {
             spacing: 12
+            // The code's real time left, read afresh whenever the panel is shown.
             PairingCountdown {
                 id: countdown
                 objectName: "pairingCountdown"
-                onStopPairing: section.stopPairing()
+                session: serverManager.pairingSession
+                running: section.Window.window !== null && section.Window.window.visible
             }
-            Component.onCompleted: countdown.start()
-            Component.onDestruction: countdown.stop()
 
             RowLayout {
                 Text {
@@ -86,7 +85,7 @@ ColumnLayout {
                     font.weight: Font.Medium
                     color: Theme.textSecondary
                 }
-                onClicked: countdown.requestStop()
+                onClicked: section.stopPairing()
             }
         }
     }

@@ -45,14 +45,16 @@ Item {
         }
     }
 
-    // A new waiting state always gets its full time: this page is made anew for each one.
+    // The code's real time left while the code is on screen; when it is up, a new code. A
+    // closed window or another step stops it.
     PairingCountdown {
         id: countdown
         objectName: "onboardingCountdown"
-        onStopPairing: step.retry()
+        session: serverManager.pairingSession
+        running: onboarding.pairingKind === OnboardingFlow.WaitingForDevice
+                 && step.Window.window !== null && step.Window.window.visible
+        onExpired: step.retry()
     }
-    Component.onCompleted: if (onboarding.pairingKind === OnboardingFlow.WaitingForDevice) countdown.start()
-    Component.onDestruction: countdown.stop()
     Shortcut {
         sequence: "Escape"
         enabled: step.visible

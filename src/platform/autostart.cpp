@@ -1,0 +1,17 @@
+#include "platform/autostart.h"
+
+#include "platform/console.h"
+#include "platform/userdefaults.h"
+
+namespace platform {
+
+void applyLaunchAtLoginPreference()
+{
+    const QString key = QStringLiteral("launchAtLogin");
+    userdefaults::registerDefaults({ { key, true } });
+    QString error;
+    if (!setLaunchAtLogin(userdefaults::boolValue(key), &error))
+        console::line(QStringLiteral("Launch at login not changed: ") + error);
+}
+
+} // namespace platform
