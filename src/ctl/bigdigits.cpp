@@ -1,4 +1,4 @@
-#include "ctl/bigdigits.h"
+#include "bigdigits.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
-#include "ctl/commands.h"
+#include "commands.h"
 
-#include "ctl/bigdigits.h"
-#include "ctl/controlclient.h"
+#include "bigdigits.h"
+#include "controlclient.h"
 #include "platform/quitsignals.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "ctl/controlclient.h"
+#include "controlclient.h"
 
 #include "control/controlservice.h"
 

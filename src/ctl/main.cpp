@@ -1,5 +1,5 @@
-#include "ctl/commands.h"
-#include "ctl/controlclient.h"
+#include "commands.h"
+#include "controlclient.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

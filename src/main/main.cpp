@@ -1,4 +1,4 @@
-#include "app/latenessprobe.h"
+#include "latenessprobe.h"
 #include "app/quivramacapp.h"
 #include "control/controlservice.h"
 #include "onboarding/onboardingflow.h"
