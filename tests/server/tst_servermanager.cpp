@@ -89,6 +89,7 @@ private Q_SLOTS:
         QVERIFY(!manager.isRunning());
         QCOMPARE(manager.logs(), "[QuivraMac] Error: etserver binary not found in app bundle\n");
         QCOMPARE(console.lines(), QStringList { "Error: etserver not found in bundle" });
+        QCOMPARE(manager.lastFailure().kind, ServerFailure::NotInstalled);
     }
 
     void restartStopsFirstAndIgnoresOldExitNotice()
@@ -152,6 +153,7 @@ private Q_SLOTS:
         manager.togglePairingMode();
         QVERIFY(manager.isPairing());
         QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 3\n"));
+        QCOMPARE(manager.lastFailure(), (ServerFailure { ServerFailure::Exited, 3 }));
         QVERIFY(!manager.isRunning());
         QVERIFY(!manager.isPairing());
         QCOMPARE(manager.uptime(), 0.0);
@@ -162,6 +164,7 @@ private Q_SLOTS:
         QCOMPARE(logLines(manager).size(), 2);
         QVERIFY(logLines(manager).at(0).startsWith("[QuivraMac] Stopping server (PID "));
         QCOMPARE(logLines(manager).at(1), "[QuivraMac] Server stopped");
+        QCOMPARE(manager.lastFailure().kind, ServerFailure::None); // a stop asked for is no failure
         QVERIFY(!manager.serverProcess());
     }
 

@@ -29,6 +29,10 @@ QmlHarness::QmlHarness()
     userdefaults::setValue(QStringLiteral("autoStartServer"), false);
     ServerEnvironment env = environment(m_processes);
     env.localIP = [] { return QStringLiteral("192.168.1.20"); };
+    env.diagnostics.interfaces = [] {
+        return QList<net::InterfaceAddress> { { "lo", true, "127.0.0.1" },
+                                              { "eth0", true, "192.168.1.20" } };
+    };
     env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
     PairingCountdown::manualTicks(true);
     m_manager = std::make_unique<ServerManager>(std::move(env));

@@ -1,18 +1,16 @@
 #include "onboarding/systemcheck.h"
 
+#include "diagnostics/checks.h"
 #include "diagnostics/sshprobe.h"
+#include "net/localaddress.h"
 #include "onboarding/prompts.h"
 #include "server/servermanager.h"
-
-#include <QDir>
-#include <QFileInfo>
-
-#include <sys/stat.h>
 
 SystemCheck::SystemCheck(ServerManager *serverManager, Scheduler scheduler, QString sshHost,
                          quint16 sshPort, QObject *parent)
     : QObject(parent)
     , m_serverManager(serverManager)
+    , m_system(serverManager ? serverManager->environment().diagnostics : DiagnosticSystem::real())
     , m_schedule(std::move(scheduler))
     , m_sshHost(std::move(sshHost))
     , m_sshPort(sshPort)
@@ -50,7 +48,7 @@ QString SystemCheck::title() const
 void SystemCheck::appear()
 {
     const int port = m_serverManager ? m_serverManager->port() : 2022;
-    const QString address = m_serverManager ? m_serverManager->localIP() : QString();
+    const QString address = net::chooseLocalIP(m_system.interfaces());
     m_items = {
         { QStringLiteral("ssh_daemon"), QStringLiteral("Remote Login"),
           QStringLiteral("Your Mac accepts secure connections") },
@@ -161,38 +159,39 @@ void SystemCheck::checkSsh(std::function<void(Item)> done)
     });
 }
 
+// The status report's own checks, worded for the setup window.
 SystemCheck::Item SystemCheck::checkSshDirectory() const
 {
-    const QString path = QDir::homePath() + QStringLiteral("/.ssh");
-    if (!QFileInfo(path).isDir())
+    const checks::SshDirectoryState state = checks::inspectSshDirectory(m_system.homeDirectory());
+    switch (state.kind) {
+    case checks::SshDirectoryState::Missing:
         return failed(QStringLiteral("~/.ssh directory doesn't exist"),
                       prompts::missingSshDirectory());
-    struct stat info
-    {
-    };
-    if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
-        return passed; // unreadable permissions count as correct
-    const uint mode = info.st_mode & 07777;
-    if (mode == 0700)
-        return passed;
-    return failed(QStringLiteral("~/.ssh has wrong permissions"),
-                  prompts::wrongPermissions(QString::number(mode, 8)));
+    case checks::SshDirectoryState::WrongMode:
+        return failed(QStringLiteral("~/.ssh has wrong permissions"),
+                      prompts::wrongPermissions(QString::number(state.mode, 8)));
+    case checks::SshDirectoryState::Unreadable: // unreadable permissions count as correct
+    case checks::SshDirectoryState::Fine:
+        break;
+    }
+    return passed;
 }
 
 void SystemCheck::checkServer(std::function<void(Item)> done)
 {
     const auto verdict = [this](const std::function<void(Item)> &report) {
-        if (!m_serverManager || m_serverManager->isRunning())
-            return report(m_serverManager ? passed
-                                          : failed(QStringLiteral("Server couldn't start"),
-                                                   prompts::serverCrash(-1, {})));
-        const QString logs = m_serverManager->logs();
+        if (!m_serverManager)
+            return report(
+                failed(QStringLiteral("Server couldn't start"), prompts::serverCrash(-1, {})));
+        if (m_serverManager->isRunning())
+            return report(passed);
+        const ServerFailure failure = m_serverManager->lastFailure();
         const int port = m_serverManager->port();
-        if (logs.contains(QLatin1String("Address already in use"))
-            || logs.contains(QLatin1String("EADDRINUSE")))
+        if (failure.kind == ServerFailure::PortInUse)
             return report(
                 failed(QStringLiteral("Port %1 is in use").arg(port), prompts::portInUse(port)));
-        report(failed(QStringLiteral("Server couldn't start"), prompts::serverCrash(-1, logs)));
+        report(failed(QStringLiteral("Server couldn't start"),
+                      prompts::serverCrash(failure.exitCode, m_serverManager->logs())));
     };
     if (m_serverManager && !m_serverManager->isRunning()) {
         m_serverManager->startServer();
@@ -204,7 +203,7 @@ void SystemCheck::checkServer(std::function<void(Item)> done)
 
 SystemCheck::Item SystemCheck::checkNetwork() const
 {
-    if (!m_serverManager || m_serverManager->localIP() == QLatin1String("127.0.0.1"))
+    if (checks::network(m_system.interfaces()).kind != DiagnosticStatus::Passed)
         return failed(QStringLiteral("No network connection"), prompts::noNetwork());
     return passed;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "diagnostics/checks.h"
 #include "onboarding/scheduler.h"
 
 #include <QObject>
@@ -73,6 +74,8 @@ private:
     Item checkNetwork() const;
 
     QPointer<ServerManager> m_serverManager;
+    // What the status report's checks read: the same home and addresses.
+    DiagnosticSystem m_system;
     Scheduler m_schedule;
     QString m_sshHost;
     quint16 m_sshPort;

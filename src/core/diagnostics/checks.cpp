@@ -63,18 +63,34 @@ QString octal(mode_t mode)
 
 } // namespace
 
-DiagnosticStatus sshDirectory(const QString &home)
+SshDirectoryState inspectSshDirectory(const QString &home)
 {
     const QString path = home + QStringLiteral("/.ssh");
     if (!QFileInfo(path).isDir()) // follows a symbolic link
-        return DiagnosticStatus::fixable(QStringLiteral("~/.ssh directory doesn't exist"));
+        return { SshDirectoryState::Missing };
     const auto mode = permissions(path);
     if (!mode)
-        return DiagnosticStatus::fixable(QStringLiteral("Cannot read ~/.ssh permissions"));
+        return { SshDirectoryState::Unreadable };
     if (*mode != 0700)
+        return { SshDirectoryState::WrongMode, uint(*mode) };
+    return {};
+}
+
+DiagnosticStatus sshDirectory(const QString &home)
+{
+    const SshDirectoryState state = inspectSshDirectory(home);
+    switch (state.kind) {
+    case SshDirectoryState::Missing:
+        return DiagnosticStatus::fixable(QStringLiteral("~/.ssh directory doesn't exist"));
+    case SshDirectoryState::Unreadable:
+        return DiagnosticStatus::fixable(QStringLiteral("Cannot read ~/.ssh permissions"));
+    case SshDirectoryState::WrongMode:
         return DiagnosticStatus::fixable(
             QStringLiteral("~/.ssh has incorrect permissions (%1 instead of 700)")
-                .arg(octal(*mode)));
+                .arg(octal(state.mode)));
+    case SshDirectoryState::Fine:
+        break;
+    }
     return DiagnosticStatus::passed();
 }
 

@@ -28,6 +28,16 @@ namespace checks {
 // The six checks in their fixed order, all pending.
 QList<DiagnosticCheck> fixedList();
 
+// What ~/.ssh looks like. The status report and the setup window run the same inspection and
+// word its outcome each in their own way.
+struct SshDirectoryState
+{
+    enum Kind { Fine, Missing, Unreadable, WrongMode };
+    Kind kind = Fine;
+    uint mode = 0;
+};
+SshDirectoryState inspectSshDirectory(const QString &home);
+
 DiagnosticStatus sshDirectory(const QString &home);
 DiagnosticStatus authorizedKeys(const QString &home);
 DiagnosticStatus server(std::optional<bool> running);

@@ -2,17 +2,10 @@
 
 #include "platform/console.h"
 #include "platform/userdefaults.h"
-#include "server/processids.h"
 #include "server/serverlog.h"
-#include "server/serveroutput.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QThread>
-
-#include <csignal>
 
 namespace {
 const QString serverFifo = QStringLiteral("/tmp/et.fifo");
@@ -21,15 +14,21 @@ const QString serverFifo = QStringLiteral("/tmp/et.fifo");
 ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_env(std::move(environment))
+    , m_process(m_env.uptimeInterval)
+    , m_orphans(m_env.processes, m_env.pgrepProgram, pidFilePath(),
+                [this](const QString &line) { log(line); })
     , m_pairing(m_env.now)
+    , m_keys([this](const QString &line) { log(line); })
 {
+    connect(&m_process, &ServerProcess::runningChanged, this, &ServerManager::isRunningChanged);
+    connect(&m_process, &ServerProcess::uptimeChanged, this, &ServerManager::uptimeChanged);
+    connect(&m_process, &ServerProcess::output, this, &ServerManager::appendServerOutput);
+    connect(&m_process, &ServerProcess::exited, this, &ServerManager::onServerExited);
     connect(&m_pairing, &PairingSession::isPairingChanged, this, &ServerManager::isPairingChanged);
     connect(&m_pairing, &PairingSession::tokenChanged, this, &ServerManager::pairingTokenChanged);
     connect(&m_pairing, &PairingSession::expiresAtChanged, this,
             &ServerManager::pairingExpiresAtChanged);
     connect(&m_pairing, &PairingSession::message, this, &ServerManager::log);
-    m_uptimeTimer.setInterval(m_env.uptimeInterval);
-    connect(&m_uptimeTimer, &QTimer::timeout, this, [this] { setUptime(m_uptime + 1.0); });
 
     setLocalIP(m_env.localIP());
     userdefaults::registerDefaults({ { QStringLiteral("autoStartServer"), true } });
@@ -40,14 +39,7 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
         startServer();
 }
 
-ServerManager::~ServerManager()
-{
-    // Never leave a child behind, even when the quit path did not run.
-    if (m_serverProcess && m_serverProcess->state() != QProcess::NotRunning) {
-        m_serverProcess->kill();
-        m_serverProcess->waitForFinished(1000);
-    }
-}
+ServerManager::~ServerManager() = default;
 
 QString ServerManager::etserverURL() const
 {
@@ -86,9 +78,10 @@ void ServerManager::startServer()
     if (executable.isEmpty()) {
         console::line(QStringLiteral("Error: etserver not found in bundle"));
         log(QStringLiteral("[QuivraMac] Error: etserver binary not found in app bundle"));
+        setFailure({ ServerFailure::NotInstalled });
         return;
     }
-    if (m_serverProcess && m_serverProcess->state() != QProcess::NotRunning)
+    if (m_process.isRunning())
         stopServer();
 
     const QString support = supportDirectory();
@@ -100,98 +93,49 @@ void ServerManager::startServer()
     console::line(QStringLiteral("Starting Quivra Server from %1...").arg(executable));
     log(QStringLiteral("[QuivraMac] Starting server on port %1...").arg(m_port));
 
-    std::unique_ptr<QProcess, DeleteLater> child(new QProcess(this));
-    child->setProgram(executable);
-    child->setArguments(serverArguments());
-    child->setWorkingDirectory(QFileInfo(executable).absolutePath());
-    child->setProcessChannelMode(QProcess::MergedChannels);
-    child->setStandardInputFile(QProcess::nullDevice());
-    child->start(QIODevice::ReadOnly);
-    if (!child->waitForStarted()) {
-        console::line(QStringLiteral("Failed to launch server: ") + child->errorString());
-        log(QStringLiteral("[QuivraMac] Failed to start: ") + child->errorString());
+    m_portTaken = false;
+    if (const auto error = m_process.launch(executable, serverArguments())) {
+        console::line(QStringLiteral("Failed to launch server: ") + *error);
+        log(QStringLiteral("[QuivraMac] Failed to start: ") + *error);
+        setFailure({ ServerFailure::LaunchFailed, -1, *error });
         return;
     }
-
-    const quint64 generation = ++m_generation;
-    QProcess *process = child.get();
-    m_serverProcess = std::move(child);
-    m_serverPid = process->processId();
-    setRunning(true);
-    m_uptimeTimer.start();
-    auto *output = new ServerOutputReader(process);
-    connect(output, &ServerOutputReader::received, this, &ServerManager::appendServerOutput);
-    // The exit notice is queued so that a stop's own messages come before it, as they would if
-    // the platform reported the exit from another thread.
-    connect(process, &QProcess::finished, this, [this, generation, output](int code) {
-        output->flush();
-        QMetaObject::invokeMethod(
-            this, [this, generation, code] { onServerExited(generation, code); },
-            Qt::QueuedConnection);
-    });
+    setFailure({});
     startPairingListener();
 }
 
 void ServerManager::stopServer()
 {
-    if (!m_serverProcess)
+    if (!m_process.process())
         return;
-    const qint64 pid = m_serverPid;
-    console::line(QStringLiteral("Stopping Quivra Server (PID %1)...").arg(pid));
-    log(QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(pid));
-
+    console::line(QStringLiteral("Stopping Quivra Server (PID %1)...").arg(m_process.pid()));
+    log(QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(m_process.pid()));
     stopPairingListener();
-    QProcess *process = m_serverProcess.get();
-    if (process->state() != QProcess::NotRunning) {
-        process->terminate();
-        // Returns as soon as the child exits; 20 steps of 100 ms at the most.
-        if (!process->waitForFinished(2000)) {
-            log(QStringLiteral("[QuivraMac] Force killing server (didn't exit gracefully)"));
-            process->kill();
-            process->waitForFinished(100);
-        }
-    }
+    // Returns as soon as the child exits; 20 steps of 100 ms at the most.
+    m_process.stop(std::chrono::milliseconds(2000), [this] {
+        log(QStringLiteral("[QuivraMac] Force killing server (didn't exit gracefully)"));
+    });
     QFile::remove(pidFilePath());
-    m_serverProcess.reset();
-    resetRunningState();
+    setFailure({});
     log(QStringLiteral("[QuivraMac] Server stopped"));
 }
 
 void ServerManager::stopServerForQuit()
 {
-    if (m_serverProcess && m_serverProcess->state() != QProcess::NotRunning) {
+    if (m_process.isRunning()) {
         log(QStringLiteral("[QuivraMac] Stopping server for app quit..."));
-        m_serverProcess->terminate();
-        if (!m_serverProcess->waitForFinished(1000))
-            m_serverProcess->kill();
+        m_process.stop(std::chrono::milliseconds(1000));
     }
-    const QString pidFile = pidFilePath();
-    if (const auto pid = processids::readPidFile(pidFile)) {
-        auto &processes = *m_env.processes;
-        if (processes.exists(*pid) && processes.isOwnServer(*pid)) {
-            processes.signal(*pid, SIGTERM);
-            for (int step = 0; step < 50 && processes.exists(*pid); ++step)
-                QThread::msleep(10);
-            if (processes.exists(*pid))
-                processes.signal(*pid, SIGKILL);
-        }
-    }
-    QFile::remove(pidFile);
+    m_orphans.stopFromPidFile();
 }
 
-void ServerManager::onServerExited(quint64 generation, int status)
+void ServerManager::onServerExited(int code, bool current)
 {
-    if (m_serverProcess && generation == m_generation)
-        resetRunningState();
-    log(QStringLiteral("[QuivraMac] Server exited with code %1").arg(status));
-}
-
-void ServerManager::resetRunningState()
-{
-    setRunning(false);
-    m_uptimeTimer.stop();
-    setUptime(0);
-    stopPairingListener();
+    if (current) {
+        stopPairingListener();
+        setFailure({ m_portTaken ? ServerFailure::PortInUse : ServerFailure::Exited, code });
+    }
+    log(QStringLiteral("[QuivraMac] Server exited with code %1").arg(code));
 }
 
 void ServerManager::appendServerOutput(const QByteArray &chunk)
@@ -199,6 +143,9 @@ void ServerManager::appendServerOutput(const QByteArray &chunk)
     const auto entry = serverlog::outputEntry(chunk);
     if (!entry)
         return;
+    // Read as it arrives, so that the reason does not depend on what the log still holds.
+    if (chunk.contains("Address already in use") || chunk.contains("EADDRINUSE"))
+        m_portTaken = true;
     console::line(*entry);
     m_log.appendOutput(*entry);
     Q_EMIT logsChanged();
@@ -218,20 +165,12 @@ void ServerManager::setLogs(const QString &logs)
     Q_EMIT logsChanged();
 }
 
-void ServerManager::setRunning(bool running)
+void ServerManager::setFailure(const ServerFailure &failure)
 {
-    if (running == m_isRunning)
+    if (failure == m_failure)
         return;
-    m_isRunning = running;
-    Q_EMIT isRunningChanged();
-}
-
-void ServerManager::setUptime(double uptime)
-{
-    if (uptime == m_uptime)
-        return;
-    m_uptime = uptime;
-    Q_EMIT uptimeChanged();
+    m_failure = failure;
+    Q_EMIT lastFailureChanged();
 }
 
 void ServerManager::setLastPairedDevice(const QString &name)

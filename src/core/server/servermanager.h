@@ -2,19 +2,23 @@
 
 #include "pairing/pairinglistener.h"
 #include "pairing/pairingsession.h"
+#include "server/keyinstaller.h"
+#include "server/orphanreaper.h"
 #include "server/serverenvironment.h"
+#include "server/serverfailure.h"
 #include "server/serverlog.h"
+#include "server/serverprocess.h"
 
 #include <QObject>
-#include <QPointer>
-#include <QProcess>
 #include <QString>
-#include <QTimer>
 
 #include <memory>
 
-// Owns the etserver child: start, output capture, exit notice, graceful and forced stop, and
-// clean-up of servers left over by an earlier run. All of it lives on the main thread.
+// The one object the views, the phone's requests and the session bus see: the etserver child,
+// its log, the machine's address and pairing mode. It is a façade: the child is a
+// ServerProcess, left-over servers an OrphanReaper, pairing mode a PairingSession and keys a
+// KeyInstaller; it owns the pairing listener while the server runs. All of it lives on the main
+// thread.
 class ServerManager : public QObject
 {
     Q_OBJECT
@@ -34,8 +38,8 @@ public:
     explicit ServerManager(ServerEnvironment environment = {}, QObject *parent = nullptr);
     ~ServerManager() override;
 
-    bool isRunning() const { return m_isRunning; }
-    double uptime() const { return m_uptime; }
+    bool isRunning() const { return m_process.isRunning(); }
+    double uptime() const { return m_process.uptime(); }
     int port() const { return m_port; }
     QString pairingToken() const { return m_pairing.token(); }
     QString localIP() const { return m_localIP; }
@@ -44,6 +48,8 @@ public:
     QString logs() const { return m_log.text(); }
     // Empty until the first phone pairs.
     QString lastPairedDevice() const { return m_lastPairedDevice; }
+    // Why the last start did not give a running server, or why it stopped by itself.
+    ServerFailure lastFailure() const { return m_failure; }
 
     // The settings window clears the log by assigning an empty text.
     void setLogs(const QString &logs);
@@ -52,9 +58,9 @@ public:
     // Blocks for at most about 2.1 s: SIGTERM, then SIGKILL.
     Q_INVOKABLE void stopServer();
     void stopServerForQuit();
-    void cleanupOrphanedServers();
-    void killOrphanedServer(qint32 pid);
-    QList<qint32> findServerProcesses() const;
+    void cleanupOrphanedServers() { m_orphans.cleanup(); }
+    void killOrphanedServer(qint32 pid) { m_orphans.kill(pid); }
+    QList<qint32> findServerProcesses() const { return m_orphans.find(); }
 
     const ServerEnvironment &environment() const { return m_env; }
     QString etserverURL() const;
@@ -70,14 +76,14 @@ public:
     PairingSession *pairingSessionObject() { return &m_pairing; }
     void startPairingListener();
     void stopPairingListener();
-    // Appends the phone's key to ~/.ssh/authorized_keys; false (and a logged reason) on failure.
+    // Appends the phone's key to ~/.ssh/authorized_keys and ends pairing mode; false (and a
+    // logged reason) on failure.
     bool installAuthorizedKey(const QString &publicKey);
 
     // Present while the server runs, until a key has been installed.
     PairingListener *pairingListener() const { return m_pairingListener.get(); }
-
     // The running child, or nullptr; after the child exits by itself it stays until a stop.
-    QProcess *serverProcess() const { return m_serverProcess.get(); }
+    QProcess *serverProcess() const { return m_process.process(); }
 
 Q_SIGNALS:
     void isRunningChanged();
@@ -88,37 +94,33 @@ Q_SIGNALS:
     void logsChanged();
     void lastPairedDeviceChanged();
     void pairingExpiresAtChanged();
+    void lastFailureChanged();
 
 private:
     void log(const QString &message);
     void appendServerOutput(const QByteArray &chunk);
-    void onServerExited(quint64 generation, int status);
-    void resetRunningState();
-
-    void setRunning(bool running);
-    void setUptime(double uptime);
+    void onServerExited(int code, bool current);
     void setLocalIP(const QString &address);
     void setLastPairedDevice(const QString &name);
+    void setFailure(const ServerFailure &failure);
 
     ServerEnvironment m_env;
-
-    bool m_isRunning = false;
-    double m_uptime = 0;
     int m_port = 2022;
     QString m_localIP = QStringLiteral("127.0.0.1");
-    PairingSession m_pairing;
     ServerLog m_log;
     QString m_lastPairedDevice;
+    ServerFailure m_failure;
+    // The child said it could not bind its port since it was launched.
+    bool m_portTaken = false;
 
-    QTimer m_uptimeTimer;
-    // Both may be dropped from inside their own signal handlers.
+    ServerProcess m_process;
+    OrphanReaper m_orphans;
+    PairingSession m_pairing;
+    KeyInstaller m_keys;
+    // Dropped from inside its own callbacks, so deleted later.
     struct DeleteLater
     {
         void operator()(QObject *object) const { object->deleteLater(); }
     };
-    std::unique_ptr<QProcess, DeleteLater> m_serverProcess;
     std::unique_ptr<PairingListener, DeleteLater> m_pairingListener;
-    qint64 m_serverPid = 0;
-    // Tells a child's exit notice apart from its successor's after a restart.
-    quint64 m_generation = 0;
 };

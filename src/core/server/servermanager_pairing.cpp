@@ -1,8 +1,6 @@
+// The pairing side of ServerManager: the user's switch and the listener's lifetime.
 #include "platform/console.h"
-#include "server/authorizedkeys.h"
 #include "server/servermanager.h"
-
-#include <QDir>
 
 void ServerManager::togglePairingMode()
 {
@@ -54,19 +52,8 @@ void ServerManager::stopPairingListener()
 
 bool ServerManager::installAuthorizedKey(const QString &publicKey)
 {
-    if (const auto problem =
-            authorizedkeys::install(QDir::homePath(), publicKey, QDate::currentDate())) {
-        if (problem->refused) {
-            console::line(QStringLiteral("Not installing key: ") + problem->text);
-            log(QStringLiteral("[QuivraMac] Not installing key: ") + problem->text);
-        } else {
-            console::line(QStringLiteral("Failed to save key: ") + problem->text);
-            log(QStringLiteral("[QuivraMac] Pairing failed: ") + problem->text);
-        }
+    if (!m_keys.install(publicKey))
         return false;
-    }
-    console::line(QStringLiteral("Successfully added key to authorized_keys"));
-    log(QStringLiteral("[QuivraMac] Pairing successful - key added"));
     m_pairing.switchOff();
     return true;
 }

@@ -1,0 +1,88 @@
+#include "server/orphanreaper.h"
+
+#include "platform/console.h"
+#include "server/processids.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+
+#include <csignal>
+
+OrphanReaper::OrphanReaper(std::shared_ptr<platform::ProcessTable> processes, QString pgrepProgram,
+                           QString pidFile, Log log)
+    : m_processes(std::move(processes))
+    , m_pgrep(std::move(pgrepProgram))
+    , m_pidFile(std::move(pidFile))
+    , m_log(std::move(log))
+{ }
+
+void OrphanReaper::cleanup()
+{
+    bool found = false;
+    if (QFile::exists(m_pidFile)) {
+        if (const auto pid = processids::readPidFile(m_pidFile)) {
+            if (m_processes->exists(*pid) && m_processes->isOwnServer(*pid)) {
+                m_log(QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)")
+                          .arg(*pid));
+                kill(*pid);
+                found = true;
+            }
+            QFile::remove(m_pidFile);
+        }
+    }
+    const QList<qint32> listed = find();
+    for (const qint32 pid : listed) {
+        m_log(QStringLiteral("[QuivraMac] Found orphaned server (PID %1 via pgrep)").arg(pid));
+        kill(pid);
+    }
+    if (found || !listed.isEmpty())
+        m_log(QStringLiteral("[QuivraMac] Cleaned up orphaned server(s)"));
+}
+
+void OrphanReaper::kill(qint32 pid)
+{
+    if (!m_processes->exists(pid) || !m_processes->isOwnServer(pid))
+        return;
+    console::line(QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(pid));
+    m_processes->signal(pid, SIGTERM);
+    for (int wait = 0; wait < 10; ++wait) {
+        QThread::usleep(100000);
+        if (!m_processes->exists(pid))
+            return;
+    }
+    console::line(QStringLiteral("[QuivraMac] Force killing etserver PID %1").arg(pid));
+    m_processes->signal(pid, SIGKILL);
+    QThread::usleep(100000);
+}
+
+QList<qint32> OrphanReaper::find() const
+{
+    QProcess pgrep;
+    pgrep.setStandardErrorFile(QProcess::nullDevice());
+    pgrep.start(m_pgrep, { QStringLiteral("-f"), QStringLiteral("etserver") });
+    if (!pgrep.waitForStarted() || !pgrep.waitForFinished())
+        return {};
+    QList<qint32> servers;
+    const QList<qint32> listed = processids::parseList(pgrep.readAllStandardOutput());
+    // pgrep -f also lists every command line that merely contains the word.
+    for (const qint32 pid : listed) {
+        if (m_processes->isOwnServer(pid))
+            servers.append(pid);
+    }
+    return servers;
+}
+
+void OrphanReaper::stopFromPidFile()
+{
+    if (const auto pid = processids::readPidFile(m_pidFile)) {
+        if (m_processes->exists(*pid) && m_processes->isOwnServer(*pid)) {
+            m_processes->signal(*pid, SIGTERM);
+            for (int step = 0; step < 50 && m_processes->exists(*pid); ++step)
+                QThread::msleep(10);
+            if (m_processes->exists(*pid))
+                m_processes->signal(*pid, SIGKILL);
+        }
+    }
+    QFile::remove(m_pidFile);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QObject>
+#include <QProcess>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+// The etserver child: its launch, its merged output, its exit, a graceful then forced stop and
+// its uptime. It says nothing itself; ServerManager turns what happens into messages.
+class ServerProcess : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ServerProcess(std::chrono::milliseconds uptimeTick, QObject *parent = nullptr);
+    ~ServerProcess() override;
+
+    bool isRunning() const { return m_running; }
+    double uptime() const { return m_uptime; }
+    qint64 pid() const { return m_pid; }
+    // From launch until the next stop; after the child exits by itself it stays until then.
+    QProcess *process() const { return m_process.get(); }
+
+    // The platform's error text when the child could not be started.
+    std::optional<QString> launch(const QString &program, const QStringList &arguments);
+    // SIGTERM, then SIGKILL once `grace` has passed; beforeKill runs just before the kill.
+    // Returns at once when the child has already exited. Forgets the child either way.
+    void stop(std::chrono::milliseconds grace, const std::function<void()> &beforeKill = {});
+
+Q_SIGNALS:
+    void runningChanged();
+    void uptimeChanged();
+    void output(const QByteArray &chunk);
+    // After the child's last output, on the loop's next turn: a stop's own messages come first.
+    // Also for a child already replaced by a newer one, with `current` false.
+    void exited(int code, bool current);
+
+private:
+    void setRunning(bool running);
+    void setUptime(double uptime);
+
+    // Dropped from inside its own signal handlers, so deleted later.
+    struct DeleteLater
+    {
+        void operator()(QObject *object) const { object->deleteLater(); }
+    };
+    std::unique_ptr<QProcess, DeleteLater> m_process;
+    qint64 m_pid = 0;
+    // Tells a child's exit apart from its successor's after a restart.
+    quint64 m_generation = 0;
+    bool m_running = false;
+    double m_uptime = 0;
+    QTimer m_uptimeTimer;
+};
