@@ -22,10 +22,10 @@ class TestPairingListener : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_port = testsupport::freeTcpPort();
         m_listener = std::make_unique<PairingListener>(PairingListener::Setup {});
-        m_listener->start(m_port, false);
+        m_listener->start(0, false);
         QVERIFY(m_listener->isListening());
+        m_port = m_listener->port();
     }
 
     void cleanup() { m_listener.reset(); }
@@ -72,8 +72,8 @@ private Q_SLOTS:
             installed.append(key);
             return true;
         };
-        const quint16 port = testsupport::freeTcpPort();
-        listener.start(port, false);
+        listener.start(0, false);
+        const quint16 port = listener.port();
         const QByteArray key = testsupport::ed25519Key();
         const auto pair = [&](const QString &token) {
             return testsupport::replyBody(
@@ -144,8 +144,8 @@ private Q_SLOTS:
             QSKIP(qPrintable("DNS-SD not testable here: " + reason));
         PairingListener listener({});
         QSignalSpy advertised(&listener, &PairingListener::advertised);
-        const quint16 port = testsupport::freeTcpPort();
-        listener.start(port);
+        listener.start(0);
+        const quint16 port = listener.port();
         QVERIFY(advertised.wait(10000));
         const QString name = advertised.at(0).at(0).toString();
         QVERIFY(name.startsWith("QuivraMac-" + net::hostLabel()));

@@ -134,11 +134,7 @@ private Q_SLOTS:
         ServerManager &manager = makeManager();
         manager.startServer();
         QTRY_VERIFY(manager.logs().contains("[etserver] up"));
-        QElapsedTimer clock;
-        clock.start();
         manager.stopServer();
-        QVERIFY2(clock.elapsed() >= 1900 && clock.elapsed() < 4000,
-                 qPrintable(QString::number(clock.elapsed())));
         QVERIFY(
             manager.logs().endsWith("[QuivraMac] Force killing server (didn't exit gracefully)\n"
                                     "[QuivraMac] Server stopped\n"));

@@ -21,13 +21,22 @@ PairingFixture::PairingFixture()
                         [] { return QString::fromLatin1(hostLabel); } };
     env.sshPort = m_sshd.serverPort();
     env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
-    m_port = env.pairingPort;
     m_manager = std::make_unique<ServerManager>(std::move(env));
     if (!m_manager->isRunning())
         m_manager->startServer();
     if (m_manager->serverProcess())
         m_processes->allow(m_manager->serverProcess()->processId());
-    QTest::qWaitFor([this] { return m_manager->pairingListener()->isListening(); }, 5000);
+    if (!m_manager->pairingListener() || !m_manager->pairingListener()->isListening())
+        QTest::qFail("the pairing listener did not start", __FILE__, __LINE__);
+    else
+        m_port = m_manager->pairingListener()->port();
+}
+
+quint16 PairingFixture::port() const
+{
+    if (const PairingListener *listener = m_manager->pairingListener())
+        m_port = listener->port();
+    return m_port;
 }
 
 PairingFixture::~PairingFixture()

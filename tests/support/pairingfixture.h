@@ -16,7 +16,8 @@ public:
     ~PairingFixture();
 
     ServerManager &manager() { return *m_manager; }
-    quint16 port() const { return m_port; }
+    // The listener's, also after a restart; the last one's once it is gone.
+    quint16 port() const;
     int sshConnections() const { return *m_sshConnections; }
     void closeSshDaemon() { m_sshd.close(); }
     void setInterfaces(const QList<net::InterfaceAddress> &addresses) { *m_interfaces = addresses; }
@@ -43,7 +44,7 @@ private:
     std::shared_ptr<std::chrono::seconds> m_offset = std::make_shared<std::chrono::seconds>(0);
     std::shared_ptr<GuardedProcessTable> m_processes = std::make_shared<GuardedProcessTable>();
     std::unique_ptr<ServerManager> m_manager;
-    quint16 m_port = 0;
+    mutable quint16 m_port = 0;
 };
 
 // Well-formed public key lines with random key material.

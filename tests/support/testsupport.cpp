@@ -53,16 +53,16 @@ ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes)
     env.locateExecutable = [] { return fakeEtserverPath(); };
     env.processes = std::move(processes);
     env.uptimeInterval = std::chrono::milliseconds(20);
-    env.pairingPort = freeTcpPort();
+    env.pairingPort = 0;
     env.advertise = false;
     return env;
 }
 
-quint16 freeTcpPort()
+quint16 refusingTcpPort(QTcpSocket &holder)
 {
-    QTcpServer probe;
-    probe.listen(QHostAddress::Any, 0);
-    return probe.serverPort();
+    // Bound but not listening: the port stays ours and refuses every connection.
+    holder.bind(QHostAddress::LocalHost, 0);
+    return holder.localPort();
 }
 
 void quietConsole()

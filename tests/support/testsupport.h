@@ -6,6 +6,7 @@
 
 #include <QSet>
 #include <QStringList>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -34,10 +35,11 @@ QString fakeEtserverPath();
 QStringList etserverArguments(const QString &supportDirectory);
 
 // The real machine, except: the fake etserver, the guarded process table, a 20 ms uptime tick, a
-// free pairing port and no DNS-SD advertisement.
+// pairing port the system chooses and no DNS-SD advertisement.
 ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes);
 
-quint16 freeTcpPort();
+// A loopback port that refuses connections for as long as holder lives.
+quint16 refusingTcpPort(QTcpSocket &holder);
 
 // Console lines are dropped unless QUIVRA_TEST_VERBOSE is set; ConsoleCapture still sees them.
 void quietConsole();

@@ -140,7 +140,7 @@ private Q_SLOTS:
             + " HTTP/1.1\r\nHost: 127.0.0.1\r\nX-Device-Name: Test Phone\r\nContent-Length: "
             + QByteArray::number(key.size()) + "\r\n\r\n" + key;
         QCOMPARE(testsupport::replyBody(
-                     testsupport::exchange(h().manager().environment().pairingPort, request)),
+                     testsupport::exchange(h().manager().pairingListener()->port(), request)),
                  "Paired Successfully");
         QCOMPARE(h().onboarding().step(), Flow::Success);
         press(Qt::Key_Return);

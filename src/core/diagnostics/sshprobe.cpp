@@ -8,6 +8,7 @@ SshProbe::SshProbe(QString host, quint16 port, QObject *parent)
     , m_port(port)
 {
     m_timeout.setSingleShot(true);
+    m_timeout.setInterval(timeout);
     connect(&m_timeout, &QTimer::timeout, this, [this] { deliver(false); });
 }
 
@@ -37,7 +38,7 @@ void SshProbe::start()
     // attempt, so the others find no socket and do nothing.
     connect(m_socket, &QTcpSocket::connected, this, [this] { deliver(true); });
     connect(m_socket, &QTcpSocket::errorOccurred, this, [this] { deliver(false); });
-    m_timeout.start(timeout);
+    m_timeout.start();
     m_socket->connectToHost(m_host, m_port);
 }
 

@@ -24,6 +24,9 @@ public:
                       QObject *parent = nullptr);
     ~SshProbe() override;
 
+    // How long an unanswered connection waits for its verdict.
+    void setTimeout(std::chrono::milliseconds timeout) { m_timeout.setInterval(timeout); }
+
     // Calls done exactly once, on this thread and never from within this call, unless context
     // is destroyed first.
     void probe(QObject *context, std::function<void(bool accepting)> done);

@@ -57,15 +57,17 @@ void PairingListener::start(quint16 port, bool advertise)
         console::line(QStringLiteral("Failed to start PairingListener: ") + m_server.errorString());
         return;
     }
+    m_port = m_server.serverPort(); // the one the system chose when asked for 0
     const QString name = QStringLiteral("QuivraMac-") + net::hostLabel();
     bool advertising = true;
-    if (advertise && !m_advertiser.advertise(name, QStringLiteral("_quivra-terminal._tcp"), port)) {
+    if (advertise
+        && !m_advertiser.advertise(name, QStringLiteral("_quivra-terminal._tcp"), m_port)) {
         advertising = false;
         console::line(QStringLiteral("PairingListener not advertised (%1); phones must be given "
                                      "this computer's address by hand")
                           .arg(m_advertiser.errorString()));
     }
-    console::line(QStringLiteral("PairingListener started on port %1").arg(port));
+    console::line(QStringLiteral("PairingListener started on port %1").arg(m_port));
     // Readiness is reported after the start line, as the listener's state changes arrive later.
     QMetaObject::invokeMethod(
         this,

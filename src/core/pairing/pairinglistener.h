@@ -41,6 +41,7 @@ public:
     ~PairingListener() override;
 
     // Listens on all interfaces and, unless told otherwise, registers with the DNS-SD daemon.
+    // Port 0 asks the system for a free one; port() then tells which.
     void start(quint16 port, bool advertise = true);
     void stop();
     bool isListening() const { return m_server.isListening(); }

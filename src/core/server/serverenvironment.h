@@ -22,6 +22,7 @@ struct ServerEnvironment
     std::shared_ptr<platform::ProcessTable> processes = platform::ProcessTable::system();
     QString pgrepProgram = QStringLiteral("/usr/bin/pgrep");
     std::chrono::milliseconds uptimeInterval { 1000 };
+    // 0: any free port (tests), read back from the listener.
     quint16 pairingPort = 8080;
     // Whether the pairing listener registers itself with the DNS-SD daemon.
     bool advertise = true;
