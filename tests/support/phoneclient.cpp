@@ -40,7 +40,8 @@ QList<QByteArray> exchangeAll(quint16 port, const QList<QByteArray> &requests,
             return c->socket.state() == QAbstractSocket::UnconnectedState;
         });
     };
-    QTest::qWaitFor(allClosed, 10000);
+    if (!QTest::qWaitFor(allClosed, 10000))
+        QTest::qFail("connections still open after 10 s", __FILE__, __LINE__);
     QList<QByteArray> replies;
     for (const auto &c : clients)
         replies.append(c->socket.state() == QAbstractSocket::UnconnectedState

@@ -32,8 +32,8 @@ public:
         QString name;
         QString successMessage;
         State state = Pending;
-        QString message;
-        QString prompt;
+        QString message {};
+        QString prompt {};
     };
 
     static constexpr std::chrono::milliseconds beforeEachCheck { 300 };

@@ -30,8 +30,8 @@ public:
     // What a request is judged against and what the status report reads.
     struct Setup
     {
-        QPointer<PairingSession> session;
-        ServerRunning serverRunning;
+        QPointer<PairingSession> session {};
+        ServerRunning serverRunning {};
         DiagnosticSystem diagnostics = DiagnosticSystem::real();
         QString sshHost = QStringLiteral("127.0.0.1");
         quint16 sshPort = 22;

@@ -12,7 +12,7 @@ struct ServerFailure
     // The child's exit code (Exited, PortInUse) or -1 when it never ran.
     int exitCode = -1;
     // The platform's words for a failed launch.
-    QString detail;
+    QString detail {};
 
     bool operator==(const ServerFailure &) const = default;
 };
