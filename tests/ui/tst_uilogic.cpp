@@ -64,7 +64,7 @@ private Q_SLOTS:
     void toggleDecidesOnTheStateAtCallTime()
     {
         testsupport::QmlHarness harness;
-        UiController ui(&harness.manager(), nullptr);
+        UiController ui(&harness.manager());
         QVERIFY(!harness.manager().isRunning());
         ui.toggleServer();
         QVERIFY(harness.manager().isRunning());

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // "Pair New Device", or the code with its countdown while pairing mode is on.
 ColumnLayout {
@@ -28,7 +28,7 @@ ColumnLayout {
             PairingCountdown {
                 id: countdown
                 objectName: "pairingCountdown"
-                session: serverManager.pairingSession
+                session: ServerManager.pairingSession
                 running: section.Window.window !== null && section.Window.window.visible
             }
 

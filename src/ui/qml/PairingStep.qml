@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // The code to type on the phone with its countdown, a phone that is connecting, or a failure.
 Item {
@@ -50,8 +50,8 @@ Item {
     PairingCountdown {
         id: countdown
         objectName: "onboardingCountdown"
-        session: serverManager.pairingSession
-        running: onboarding.pairingKind === OnboardingFlow.WaitingForDevice
+        session: ServerManager.pairingSession
+        running: Onboarding.pairingKind === Onboarding.WaitingForDevice
                  && step.Window.window !== null && step.Window.window.visible
         onExpired: step.retry()
     }
@@ -64,7 +64,7 @@ Item {
     ColumnLayout {
         anchors.centerIn: parent
         width: parent.width - 96
-        visible: onboarding.pairingKind === OnboardingFlow.WaitingForDevice
+        visible: Onboarding.pairingKind === Onboarding.WaitingForDevice
         spacing: 20
         RowLayout {
             Layout.alignment: Qt.AlignHCenter
@@ -91,7 +91,7 @@ Item {
                     objectName: "onboardingCode"
                     spacing: 12
                     Repeater {
-                        model: onboarding.code.length
+                        model: Onboarding.code.length
                         Rectangle {
                             required property int index
                             width: 48
@@ -100,7 +100,7 @@ Item {
                             color: Theme.card
                             Text {
                                 anchors.centerIn: parent
-                                text: onboarding.code.charAt(index)
+                                text: Onboarding.code.charAt(index)
                                 font.pixelSize: 32
                                 font.weight: Font.Medium
                                 font.family: Theme.monospace
@@ -135,13 +135,13 @@ Item {
 
     Column {
         anchors.centerIn: parent
-        visible: onboarding.pairingKind === OnboardingFlow.DeviceConnecting
+        visible: Onboarding.pairingKind === Onboarding.DeviceConnecting
         spacing: 12
         BusyIndicator { anchors.horizontalCenter: parent.horizontalCenter; running: parent.visible; width: 64; height: 64 }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             textFormat: Text.StyledText
-            text: "<b>" + onboarding.deviceName.replace(/&/g, "&amp;").replace(/</g, "&lt;") + "</b> is connecting..."
+            text: "<b>" + Onboarding.deviceName.replace(/&/g, "&amp;").replace(/</g, "&lt;") + "</b> is connecting..."
             font.pixelSize: 20
             color: Theme.text
         }
@@ -150,11 +150,11 @@ Item {
 
     Column {
         anchors.centerIn: parent
-        visible: onboarding.pairingKind === OnboardingFlow.Error
+        visible: Onboarding.pairingKind === Onboarding.Error
         spacing: 14
         SymbolImage { anchors.horizontalCenter: parent.horizontalCenter; name: "xmark.circle.fill"; size: 64; color: Theme.red }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: onboarding.errorMessage; font.pixelSize: 15; color: Theme.textSecondary }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorMessage; font.pixelSize: 15; color: Theme.textSecondary }
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
@@ -169,8 +169,8 @@ Item {
         anchors.centerIn: parent
         modal: true
         padding: 20
-        readonly property string details: "Address: " + serverManager.localIP + "\nUser: " + ui.userName
-                                          + "\nSSH port: 22\nEternal Terminal port: " + serverManager.port
+        readonly property string details: "Address: " + ServerManager.localIP + "\nUser: " + Ui.userName
+                                          + "\nSSH port: 22\nEternal Terminal port: " + ServerManager.port
         background: Rectangle { radius: 12; color: Theme.card }
         contentItem: Column {
             spacing: 12
@@ -178,7 +178,7 @@ Item {
             Text { text: manual.details; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
-                OnboardingButton { title: "Copy"; primary: false; onClicked: ui.copyText(manual.details) }
+                OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(manual.details) }
                 OnboardingButton { title: "Close"; onClicked: manual.close() }
             }
         }

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // Four checks one after another; at the first failure a card explains it and offers help.
 Item {
@@ -67,13 +67,13 @@ Item {
                 SymbolImage { name: "exclamationmark.triangle.fill"; size: 18; color: Theme.yellow }
                 Text {
                     objectName: "failureMessage"
-                    text: systemCheck.failedMessage
+                    text: SystemCheck.failedMessage
                     font.pixelSize: 14
                     font.weight: Font.Medium
                     color: Theme.text
                 }
             }
-            AskClaudeCard { width: parent.width; prompt: systemCheck.failedPrompt }
+            AskClaudeCard { width: parent.width; prompt: SystemCheck.failedPrompt }
             AbstractButton {
                 text: "Try Again"
                 Accessible.name: text
@@ -87,10 +87,10 @@ Item {
         }
     }
 
-    Component.onCompleted: systemCheck.appear()
+    Component.onCompleted: SystemCheck.appear()
     Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: step.visible && systemCheck.allPassed
+        enabled: step.visible && SystemCheck.allPassed
         onActivated: step.allPassedContinue()
     }
     Shortcut {
@@ -112,7 +112,7 @@ Item {
             Text {
                 objectName: "checkTitle"
                 Layout.alignment: Qt.AlignHCenter
-                text: systemCheck.title
+                text: SystemCheck.title
                 font.pixelSize: 24
                 font.weight: Font.DemiBold
                 color: Theme.text
@@ -122,14 +122,14 @@ Item {
                 Layout.preferredWidth: 360
                 spacing: 14
                 Repeater {
-                    model: systemCheck.checks
+                    model: SystemCheck.checks
                     delegate: CheckRow { required property var modelData; item: modelData }
                 }
             }
             FailedCheckCard {
                 Layout.alignment: Qt.AlignHCenter
-                visible: systemCheck.failedIndex >= 0
-                onRetry: systemCheck.start()
+                visible: SystemCheck.failedIndex >= 0
+                onRetry: SystemCheck.start()
             }
         }
     }
@@ -137,8 +137,8 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24
-        title: systemCheck.allPassed ? "Continue" : "Back"
-        primary: systemCheck.allPassed
-        onClicked: systemCheck.allPassed ? step.allPassedContinue() : step.backClicked()
+        title: SystemCheck.allPassed ? "Continue" : "Back"
+        primary: SystemCheck.allPassed
+        onClicked: SystemCheck.allPassed ? step.allPassedContinue() : step.backClicked()
     }
 }

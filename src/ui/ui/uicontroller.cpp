@@ -6,7 +6,6 @@
 #include "platform/userdefaults.h"
 #include "server/servermanager.h"
 #include "ui/formats.h"
-#include "ui/windowmanager.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -17,10 +16,9 @@ const QString autoStartKey = QStringLiteral("autoStartServer");
 const QString launchAtLoginKey = QStringLiteral("launchAtLogin");
 } // namespace
 
-UiController::UiController(ServerManager *serverManager, WindowManager *windows, QObject *parent)
+UiController::UiController(ServerManager *serverManager, QObject *parent)
     : QObject(parent)
     , m_serverManager(serverManager)
-    , m_windows(windows)
 {
     userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
 }
@@ -69,8 +67,7 @@ void UiController::toggleServer()
 
 void UiController::openWindow(const QString &id)
 {
-    if (m_windows)
-        m_windows->open(id);
+    Q_EMIT windowRequested(id);
 }
 
 void UiController::quit()

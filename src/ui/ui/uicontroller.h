@@ -3,12 +3,10 @@
 #include <QObject>
 #include <QPointer>
 
-class QuivraMacApp;
 class ServerManager;
-class WindowManager;
 
 // What the views may do beyond reading ServerManager: the panel's rules, window requests, the
-// clipboard, preferences and the time formats. Exposed to QML as "ui".
+// clipboard, preferences and the time formats. The QML singleton Ui.
 class UiController : public QObject
 {
     Q_OBJECT
@@ -19,7 +17,7 @@ class UiController : public QObject
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
 
 public:
-    UiController(ServerManager *serverManager, WindowManager *windows, QObject *parent = nullptr);
+    explicit UiController(ServerManager *serverManager, QObject *parent = nullptr);
 
     bool autoStartServer() const;
     void setAutoStartServer(bool on);
@@ -30,6 +28,7 @@ public:
 
     // Decides on the server's state at the moment of the call: stopped starts, running stops.
     Q_INVOKABLE void toggleServer();
+    // Asks for the window through windowRequested.
     Q_INVOKABLE void openWindow(const QString &id);
     Q_INVOKABLE void quit();
     Q_INVOKABLE void copyText(const QString &text);
@@ -39,8 +38,8 @@ public:
 Q_SIGNALS:
     void autoStartServerChanged();
     void launchAtLoginChanged();
+    void windowRequested(const QString &id);
 
 private:
     QPointer<ServerManager> m_serverManager;
-    WindowManager *m_windows;
 };
