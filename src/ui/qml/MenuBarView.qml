@@ -25,10 +25,6 @@ Rectangle {
         Divider {}
         PairingSection {
             Layout.fillWidth: true
-            isPairing: ServerManager.isPairing
-            pairingToken: ServerManager.pairingToken
-            onStartPairing: ServerManager.togglePairingMode()
-            onStopPairing: ServerManager.togglePairingMode()
         }
         Divider {}
         MenuRowButton {

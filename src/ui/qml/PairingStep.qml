@@ -10,6 +10,7 @@ Item {
     signal retry()
 
     component InstructionStep: Row {
+        id: instruction
         property int number
         property string text
         spacing: 12
@@ -18,15 +19,16 @@ Item {
             height: 24
             radius: 12
             color: Theme.card
-            Text { anchors.centerIn: parent; text: number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
+            Text { anchors.centerIn: parent; text: instruction.number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
         }
-        Text { anchors.verticalCenter: parent.verticalCenter; text: parent.text; font.pixelSize: 15; color: Theme.text }
+        Text { anchors.verticalCenter: parent.verticalCenter; text: instruction.text; font.pixelSize: 15; color: Theme.text }
     }
     component WaitingIndicator: Row {
         spacing: 4
         Repeater {
             model: 3
             Rectangle {
+                id: dot
                 required property int index
                 width: 8
                 height: 8
@@ -34,7 +36,7 @@ Item {
                 color: Theme.accentColor
                 SequentialAnimation on opacity {
                     loops: Animation.Infinite
-                    PauseAnimation { duration: 200 * index }
+                    PauseAnimation { duration: 200 * dot.index }
                     SequentialAnimation {
                         loops: Animation.Infinite
                         NumberAnimation { from: 1; to: 0.3; duration: 600; easing.type: Easing.InOutQuad }
@@ -93,6 +95,7 @@ Item {
                     Repeater {
                         model: Onboarding.code.length
                         Rectangle {
+                            id: box
                             required property int index
                             width: 48
                             height: 56
@@ -100,7 +103,7 @@ Item {
                             color: Theme.card
                             Text {
                                 anchors.centerIn: parent
-                                text: Onboarding.code.charAt(index)
+                                text: Onboarding.code.charAt(box.index)
                                 font.pixelSize: 32
                                 font.weight: Font.Medium
                                 font.family: Theme.monospace

@@ -10,6 +10,7 @@ Item {
     signal backClicked()
 
     component CheckRow: Row {
+        id: row
         property var item
         spacing: 12
         Item {
@@ -18,7 +19,7 @@ Item {
             Rectangle {
                 anchors.fill: parent
                 anchors.margins: 2
-                visible: item.state === SystemCheck.Pending
+                visible: row.item.state === SystemCheck.Pending
                 radius: width / 2
                 color: "transparent"
                 border.width: 2
@@ -29,28 +30,29 @@ Item {
                 width: 20
                 height: 20
                 visible: running
-                running: item.state === SystemCheck.Checking
+                running: row.item.state === SystemCheck.Checking
             }
             SymbolImage {
                 anchors.fill: parent
-                visible: item.state === SystemCheck.Passed || item.state === SystemCheck.Failed
-                name: item.state === SystemCheck.Passed ? "checkmark.circle.fill" : "xmark.circle.fill"
+                visible: row.item.state === SystemCheck.Passed || row.item.state === SystemCheck.Failed
+                name: row.item.state === SystemCheck.Passed ? "checkmark.circle.fill" : "xmark.circle.fill"
                 size: 24
-                color: item.state === SystemCheck.Passed ? Theme.green : Theme.red
+                color: row.item.state === SystemCheck.Passed ? Theme.green : Theme.red
                 Behavior on opacity { NumberAnimation { duration: 200 } }
             }
         }
         Column {
-            Text { text: item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
+            Text { text: row.item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
             Text {
-                visible: item.state === SystemCheck.Passed
-                text: item.successMessage
+                visible: row.item.state === SystemCheck.Passed
+                text: row.item.successMessage
                 font.pixelSize: 13
                 color: Theme.textSecondary
             }
         }
     }
     component FailedCheckCard: Rectangle {
+        id: card
         signal retry()
         implicitWidth: 500
         implicitHeight: cardContent.implicitHeight + 40
@@ -77,7 +79,7 @@ Item {
             AbstractButton {
                 text: "Try Again"
                 Accessible.name: text
-                onClicked: parent.parent.retry()
+                onClicked: card.retry()
                 contentItem: Row {
                     spacing: 6
                     SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
