@@ -98,8 +98,7 @@ ScrollView {
                     objectName: "startStopButton"
                     text: ServerManager.isRunning ? "Stop Server" : "Start Server"
                     Accessible.name: text
-                    onClicked: ServerManager.isRunning ? ServerManager.stopServer()
-                                                       : ServerManager.startServer()
+                    onClicked: Ui.toggleServer()
                 }
             }
         }

@@ -25,7 +25,7 @@ ColumnLayout {
             text: "Clear"
             Accessible.name: text
             contentItem: Text { text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
-            onClicked: ServerManager.logs = ""
+            onClicked: Ui.clearLogs()
         }
         AbstractButton {
             objectName: "copyButton"

@@ -144,7 +144,7 @@ Item {
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             textFormat: Text.StyledText
-            text: "<b>" + Onboarding.deviceName.replace(/&/g, "&amp;").replace(/</g, "&lt;") + "</b> is connecting..."
+            text: Ui.deviceConnectingText(Onboarding.deviceName)
             font.pixelSize: 20
             color: Theme.text
         }
@@ -172,16 +172,14 @@ Item {
         anchors.centerIn: parent
         modal: true
         padding: 20
-        readonly property string details: "Address: " + ServerManager.localIP + "\nUser: " + Ui.userName
-                                          + "\nSSH port: 22\nEternal Terminal port: " + ServerManager.port
         background: Rectangle { radius: 12; color: Theme.card }
         contentItem: Column {
             spacing: 12
             Text { text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
-            Text { text: manual.details; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
+            Text { text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
-                OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(manual.details) }
+                OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(Ui.manualSetupDetails) }
                 OnboardingButton { title: "Close"; onClicked: manual.close() }
             }
         }

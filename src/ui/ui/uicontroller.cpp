@@ -21,6 +21,9 @@ UiController::UiController(ServerManager *serverManager, QObject *parent)
     , m_serverManager(serverManager)
 {
     userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
+    if (serverManager)
+        connect(serverManager, &ServerManager::localIPChanged, this,
+                &UiController::manualSetupDetailsChanged);
 }
 
 bool UiController::autoStartServer() const
@@ -55,6 +58,16 @@ void UiController::setLaunchAtLogin(bool on)
     Q_EMIT launchAtLoginChanged();
 }
 
+QString UiController::manualSetupDetails() const
+{
+    if (!m_serverManager)
+        return {};
+    return QStringLiteral("Address: %1\nUser: %2\nSSH port: %3\nEternal Terminal port: %4")
+        .arg(m_serverManager->localIP(), userName(),
+             QString::number(m_serverManager->environment().sshPort),
+             QString::number(m_serverManager->port()));
+}
+
 void UiController::toggleServer()
 {
     if (!m_serverManager)
@@ -63,6 +76,12 @@ void UiController::toggleServer()
         m_serverManager->stopServer();
     else
         m_serverManager->startServer();
+}
+
+void UiController::clearLogs()
+{
+    if (m_serverManager)
+        m_serverManager->setLogs({});
 }
 
 void UiController::openWindow(const QString &id)
@@ -91,4 +110,10 @@ QString UiController::uptimeText(double seconds) const
 QString UiController::countdownText(double seconds) const
 {
     return formats::countdown(seconds);
+}
+
+QString UiController::deviceConnectingText(const QString &deviceName) const
+{
+    return QStringLiteral("<b>") + deviceName.toHtmlEscaped()
+        + QStringLiteral("</b> is connecting...");
 }
