@@ -1,6 +1,6 @@
-#include "latenessprobe.h"
 #include "app/quivramacapp.h"
 #include "control/controlservice.h"
+#include "latenessprobe.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
 #include "platform/console.h"
@@ -10,7 +10,6 @@
 #include "ui/windowmanager.h"
 
 #include <QApplication>
-#include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QSystemTrayIcon>
@@ -63,18 +62,12 @@ int main(int argc, char *argv[])
     // third of the memory (49 MB against 142 MB with the panel open, measured under Xvfb).
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    UiController *controller = nullptr;
     OnboardingFlow onboarding(&manager, &quivra);
     SystemCheck systemCheck(&manager);
-    WindowManager windows([&](QQmlContext *context) {
-        context->setContextProperty(QStringLiteral("serverManager"), &manager);
-        context->setContextProperty(QStringLiteral("app"), &quivra);
-        context->setContextProperty(QStringLiteral("ui"), controller);
-        context->setContextProperty(QStringLiteral("onboarding"), &onboarding);
-        context->setContextProperty(QStringLiteral("systemCheck"), &systemCheck);
-    });
-    UiController ui(&manager, &windows);
-    controller = &ui;
+    UiController ui(&manager);
+    // After everything the views read, so the windows and their engine are gone before any of it.
+    WindowManager windows({ &manager, &quivra, &ui, &onboarding, &systemCheck });
+    QObject::connect(&ui, &UiController::windowRequested, &windows, &WindowManager::open);
 
     std::unique_ptr<TrayIcon> tray;
     if (QSystemTrayIcon::isSystemTrayAvailable()) {

@@ -5,14 +5,12 @@
 #include "onboarding/systemcheck.h"
 #include "platform/userdefaults.h"
 #include "ui/pairingcountdown.h"
-#include "ui/symbolprovider.h"
 #include "ui/uicontroller.h"
 #include "ui/windowmanager.h"
 
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQmlComponent>
-#include <QQmlContext>
 #include <QQuickStyle>
 
 namespace testsupport {
@@ -46,16 +44,12 @@ QmlHarness::QmlHarness()
         },
         QStringLiteral("127.0.0.1"), m_sshd.serverPort());
     m_onboarding = std::make_unique<OnboardingFlow>(m_manager.get(), m_app.get());
-    m_ui = std::make_unique<UiController>(m_manager.get(), nullptr);
-    WindowManager::registerTypes();
+    m_ui = std::make_unique<UiController>(m_manager.get());
+    // A fresh engine with this harness's objects as its singletons.
     m_engine = std::make_unique<QQmlEngine>();
-    m_engine->addImportPath(QStringLiteral("qrc:/"));
-    m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-    m_engine->rootContext()->setContextProperty(QStringLiteral("serverManager"), m_manager.get());
-    m_engine->rootContext()->setContextProperty(QStringLiteral("app"), m_app.get());
-    m_engine->rootContext()->setContextProperty(QStringLiteral("ui"), m_ui.get());
-    m_engine->rootContext()->setContextProperty(QStringLiteral("onboarding"), m_onboarding.get());
-    m_engine->rootContext()->setContextProperty(QStringLiteral("systemCheck"), m_systemCheck.get());
+    WindowManager::prepareEngine(
+        m_engine.get(),
+        { m_manager.get(), m_app.get(), m_ui.get(), m_onboarding.get(), m_systemCheck.get() });
 }
 
 QmlHarness::~QmlHarness()

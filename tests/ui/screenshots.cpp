@@ -50,18 +50,20 @@ bool save(const QImage &image, const QString &file, QSize expected)
 void settle(QmlHarness &h)
 {
     QObject *stack = h.find<QObject>("onboardingStack");
-    QTest::qWaitFor([stack] { return !stack->property("busy").toBool(); }, 3000);
+    if (!QTest::qWaitFor([stack] { return !stack->property("busy").toBool(); }, 3000))
+        qWarning("the step transition did not finish");
     QTest::qWait(600);
 }
 
 void runChecksUntil(QmlHarness &h, const std::function<bool()> &done)
 {
-    QTest::qWaitFor(
-        [&] {
-            h.runScheduled();
-            return done();
-        },
-        5000);
+    if (!QTest::qWaitFor(
+            [&] {
+                h.runScheduled();
+                return done();
+            },
+            5000))
+        qWarning("the system check did not reach the state wanted");
 }
 
 int onboardingShots(const QDir &out)

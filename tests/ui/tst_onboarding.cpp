@@ -256,7 +256,7 @@ private Q_SLOTS:
     {
         // Only the user's own choices write the entry: finishing the setup window, the setting.
         QFile::remove(platform::launchAtLoginEntry());
-        UiController ui(&h().manager(), nullptr);
+        UiController ui(&h().manager());
         QVERIFY(!QFile::exists(platform::launchAtLoginEntry()));
         h().onboarding().finish();
         QVERIFY(ui.launchAtLogin()); // on by default

@@ -1,3 +1,5 @@
+#include "platform/systeminfo.h"
+#include "platform/userdefaults.h"
 #include "qmlharness.h"
 #include "ui/formats.h"
 #include "ui/pairingcountdown.h"
@@ -64,7 +66,7 @@ private Q_SLOTS:
     void toggleDecidesOnTheStateAtCallTime()
     {
         testsupport::QmlHarness harness;
-        UiController ui(&harness.manager(), nullptr);
+        UiController ui(&harness.manager());
         QVERIFY(!harness.manager().isRunning());
         ui.toggleServer();
         QVERIFY(harness.manager().isRunning());
@@ -76,6 +78,31 @@ private Q_SLOTS:
         QVERIFY(ui.autoStartServer());
         QCOMPARE(TrayIcon::symbolName(false), "questionmark.circle");
         QCOMPARE(TrayIcon::symbolName(true), "terminal.fill");
+    }
+
+    void pairingScreenTexts()
+    {
+        userdefaults::setValue(QStringLiteral("autoStartServer"), false);
+        auto address = std::make_shared<QString>("10.0.0.7");
+        ServerEnvironment env =
+            testsupport::environment(std::make_shared<testsupport::GuardedProcessTable>());
+        env.localIP = [address] { return *address; };
+        env.sshPort = 2222;
+        ServerManager manager(env);
+        UiController ui(&manager);
+        QCOMPARE(ui.manualSetupDetails(),
+                 "Address: 10.0.0.7\nUser: " + platform::userName()
+                     + "\nSSH port: 2222\nEternal Terminal port: 2022");
+        // Pairing mode reads the address afresh, and the details follow it.
+        QSignalSpy changed(&ui, &UiController::manualSetupDetailsChanged);
+        *address = "192.168.1.30";
+        manager.togglePairingMode();
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(ui.manualSetupDetails().startsWith("Address: 192.168.1.30\n"));
+
+        // The phone names itself: its name is never markup.
+        QCOMPARE(ui.deviceConnectingText("Eve's <i>Phone</i> & co"),
+                 "<b>Eve's &lt;i&gt;Phone&lt;/i&gt; &amp; co</b> is connecting...");
     }
 };
 

@@ -15,6 +15,10 @@ class TestViews : public QObject
     {
         return h().find<QObject>(objectName)->property("text").toString();
     }
+    void click(const QString &objectName)
+    {
+        QMetaObject::invokeMethod(h().find<QObject>(objectName), "clicked");
+    }
 
 private Q_SLOTS:
     void init() { m_harness = std::make_unique<testsupport::QmlHarness>(); }
@@ -72,7 +76,8 @@ private Q_SLOTS:
         QCOMPARE(text("runningText"), "Stopped");
         QCOMPARE(text("startStopButton"), "Start Server");
         QVERIFY(!h().find<QQuickItem>("uptimeText")->isVisible());
-        h().manager().startServer();
+        click("startStopButton");
+        QVERIFY(h().manager().isRunning());
         QCOMPARE(text("startStopButton"), "Stop Server");
         QVERIFY(h().find<QQuickItem>("uptimeText")->isVisible());
         QCOMPARE(text("uptimeText"), "0s");
@@ -80,14 +85,19 @@ private Q_SLOTS:
         view->setProperty("selectedTab", 1);
         h().manager().setLogs({});
         QCOMPARE(text("logsEnd"), "No logs yet...");
-        QMetaObject::invokeMethod(h().find<QObject>("copyButton"), "clicked");
+        click("copyButton");
         QCOMPARE(QGuiApplication::clipboard()->text(), QString());
         h().manager().setLogs("[QuivraMac] one\n[etserver] two\n");
         QCOMPARE(text("logsEnd"), "[QuivraMac] one\n[etserver] two\n");
-        QMetaObject::invokeMethod(h().find<QObject>("copyButton"), "clicked");
+        click("copyButton");
         QCOMPARE(QGuiApplication::clipboard()->text(), h().manager().logs());
-        QMetaObject::invokeMethod(h().find<QObject>("clearButton"), "clicked");
+        click("clearButton");
         QCOMPARE(h().manager().logs(), QString());
+        QCOMPARE(text("logsEnd"), "No logs yet...");
+
+        view->setProperty("selectedTab", 0);
+        click("startStopButton");
+        QVERIFY(!h().manager().isRunning());
     }
 };
 

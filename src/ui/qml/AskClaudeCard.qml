@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // A ready-written help request: its first lines, and a button that copies all of it.
 Rectangle {

@@ -7,6 +7,7 @@ Item {
     signal backClicked()
 
     component DeviceIcon: Column {
+        id: device
         property string systemName
         property string label
         spacing: 8
@@ -15,11 +16,11 @@ Item {
             height: 80
             radius: 16
             color: Theme.card
-            SymbolImage { anchors.centerIn: parent; name: systemName; size: 48; color: Theme.text }
+            SymbolImage { anchors.centerIn: parent; name: device.systemName; size: 48; color: Theme.text }
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: label
+            text: device.label
             font.pixelSize: 13
             font.weight: Font.Medium
             color: Theme.text
@@ -31,6 +32,7 @@ Item {
         Repeater {
             model: 4
             Rectangle {
+                id: dot
                 required property int index
                 anchors.verticalCenter: parent.verticalCenter
                 width: 6
@@ -39,7 +41,7 @@ Item {
                 color: Theme.accentColor
                 SequentialAnimation on opacity {
                     loops: Animation.Infinite
-                    PauseAnimation { duration: 150 * index }
+                    PauseAnimation { duration: 150 * dot.index }
                     SequentialAnimation {
                         loops: Animation.Infinite
                         NumberAnimation { from: 1; to: 0.3; duration: 400; easing.type: Easing.InOutQuad }
@@ -51,15 +53,16 @@ Item {
         SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "chevron.right"; size: 12; color: Theme.accentColor }
     }
     component FeatureBullet: Row {
+        id: bullet
         property string icon
         property string text
         spacing: 12
         Item {
             width: 24
             height: 20
-            SymbolImage { anchors.centerIn: parent; name: icon; size: 14; color: Theme.accentColor }
+            SymbolImage { anchors.centerIn: parent; name: bullet.icon; size: 14; color: Theme.accentColor }
         }
-        Text { text: parent.text; font.pixelSize: 15; color: Theme.text }
+        Text { text: bullet.text; font.pixelSize: 15; color: Theme.text }
     }
 
     Shortcut {

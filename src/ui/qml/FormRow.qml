@@ -3,11 +3,12 @@ import QtQuick.Layouts
 
 // A labelled row of a settings section: the label left, the value right.
 RowLayout {
+    id: row
     property string label
     default property alias value: valueSlot.data
     Layout.fillWidth: true
     Text {
-        text: parent.label
+        text: row.label
         font.pixelSize: 13
         color: Theme.text
     }

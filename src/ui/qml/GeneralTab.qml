@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 // The automatic-start switch, port, address, running state, uptime, start and stop.
 ScrollView {
@@ -43,18 +44,18 @@ ScrollView {
                 Switch {
                     objectName: "autoStartSwitch"
                     Accessible.name: "Start server automatically"
-                    checked: ui.autoStartServer
-                    onToggled: ui.autoStartServer = checked
+                    checked: Ui.autoStartServer
+                    onToggled: Ui.autoStartServer = checked
                 }
             }
             FormRow {
                 label: "Port"
-                Text { text: String(serverManager.port); font.pixelSize: 13; color: Theme.textSecondary }
+                Text { text: String(ServerManager.port); font.pixelSize: 13; color: Theme.textSecondary }
             }
             FormRow {
                 label: "Local IP"
                 TextEdit {
-                    text: serverManager.localIP
+                    text: ServerManager.localIP
                     readOnly: true
                     selectByMouse: true
                     font.pixelSize: 13
@@ -72,21 +73,21 @@ ScrollView {
                     width: 8
                     height: 8
                     radius: 4
-                    color: serverManager.isRunning ? Theme.green : Theme.gray
+                    color: ServerManager.isRunning ? Theme.green : Theme.gray
                 }
                 Text {
                     objectName: "runningText"
-                    text: serverManager.isRunning ? "Running" : "Stopped"
+                    text: ServerManager.isRunning ? "Running" : "Stopped"
                     font.pixelSize: 13
                     color: Theme.textSecondary
                 }
             }
             FormRow {
                 label: "Uptime"
-                visible: serverManager.isRunning
+                visible: ServerManager.isRunning
                 Text {
                     objectName: "uptimeText"
-                    text: ui.uptimeText(serverManager.uptime)
+                    text: Ui.uptimeText(ServerManager.uptime)
                     font.pixelSize: 13
                     color: Theme.textSecondary
                 }
@@ -95,10 +96,9 @@ ScrollView {
                 Item { Layout.fillWidth: true }
                 Button {
                     objectName: "startStopButton"
-                    text: serverManager.isRunning ? "Stop Server" : "Start Server"
+                    text: ServerManager.isRunning ? "Stop Server" : "Start Server"
                     Accessible.name: text
-                    onClicked: serverManager.isRunning ? serverManager.stopServer()
-                                                       : serverManager.startServer()
+                    onClicked: Ui.toggleServer()
                 }
             }
         }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 // The server log, with Clear and Copy; new lines scroll into view.
 ColumnLayout {
@@ -24,7 +25,7 @@ ColumnLayout {
             text: "Clear"
             Accessible.name: text
             contentItem: Text { text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
-            onClicked: serverManager.logs = ""
+            onClicked: Ui.clearLogs()
         }
         AbstractButton {
             objectName: "copyButton"
@@ -32,7 +33,7 @@ ColumnLayout {
             Accessible.name: text
             Layout.leftMargin: 12
             contentItem: Text { text: "Copy"; font.pixelSize: 13; color: Theme.accentColor }
-            onClicked: ui.copyText(serverManager.logs)
+            onClicked: Ui.copyText(ServerManager.logs)
         }
     }
     Rectangle {
@@ -61,11 +62,11 @@ ColumnLayout {
                 wrapMode: TextEdit.Wrap
                 font.family: Theme.monospace
                 font.pixelSize: 11
-                text: serverManager.logs === "" ? "No logs yet..." : serverManager.logs
-                color: serverManager.logs === "" ? Theme.textSecondary : Theme.text
+                text: ServerManager.logs === "" ? "No logs yet..." : ServerManager.logs
+                color: ServerManager.logs === "" ? Theme.textSecondary : Theme.text
             }
             Connections {
-                target: serverManager
+                target: ServerManager
                 function onLogsChanged() { scrollToEnd.restart() }
             }
             NumberAnimation {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 // The panel under the menu-bar item: server status and switch, pairing, windows, quit.
 Rectangle {
@@ -17,31 +18,27 @@ Rectangle {
 
         HeaderSection {
             Layout.fillWidth: true
-            isRunning: serverManager.isRunning
-            port: serverManager.port
-            onToggle: ui.toggleServer()
+            isRunning: ServerManager.isRunning
+            port: ServerManager.port
+            onToggle: Ui.toggleServer()
         }
         Divider {}
         PairingSection {
             Layout.fillWidth: true
-            isPairing: serverManager.isPairing
-            pairingToken: serverManager.pairingToken
-            onStartPairing: serverManager.togglePairingMode()
-            onStopPairing: serverManager.togglePairingMode()
         }
         Divider {}
         MenuRowButton {
             title: "Setup Assistant..."
-            onClicked: ui.openWindow("onboarding")
+            onClicked: Ui.openWindow("onboarding")
         }
         MenuRowButton {
             title: "Settings..."
-            onClicked: ui.openWindow("settings")
+            onClicked: Ui.openWindow("settings")
         }
         Divider {}
         MenuRowButton {
             title: "Quit QuivraMac"
-            onClicked: ui.quit()
+            onClicked: Ui.quit()
         }
     }
 }

@@ -8,10 +8,9 @@ AbstractButton {
     property bool primary: true
     text: title
     Accessible.name: title
-    implicitWidth: Math.max(120, label.implicitWidth + 48)
-    implicitHeight: label.implicitHeight + 24
+    implicitWidth: Math.max(120, implicitContentWidth + 48)
+    implicitHeight: implicitContentHeight + 24
     contentItem: Text {
-        id: label
         text: button.title
         font.pixelSize: 15
         font.weight: Font.Medium

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // The setup window's root: one screen per step, each moving in from the trailing edge while
 // fading in and out to the leading edge.
@@ -11,17 +11,17 @@ Rectangle {
     color: Theme.background
 
     readonly property var screens: [welcome, explanation, check, pairing, success]
-    Component { id: welcome; WelcomeStep { onContinueClicked: onboarding.welcomeContinue() } }
-    Component { id: explanation; ExplanationStep { onContinueClicked: onboarding.explanationContinue(); onBackClicked: onboarding.explanationBack() } }
-    Component { id: check; SystemCheckStep { onAllPassedContinue: onboarding.startPairing(); onBackClicked: onboarding.systemCheckBack() } }
-    Component { id: pairing; PairingStep { onBackClicked: onboarding.pairingBack(); onRetry: onboarding.renewCode() } }
-    Component { id: success; SuccessStep { onDone: onboarding.finish() } }
+    Component { id: welcome; WelcomeStep { onContinueClicked: Onboarding.welcomeContinue() } }
+    Component { id: explanation; ExplanationStep { onContinueClicked: Onboarding.explanationContinue(); onBackClicked: Onboarding.explanationBack() } }
+    Component { id: check; SystemCheckStep { onAllPassedContinue: Onboarding.startPairing(); onBackClicked: Onboarding.systemCheckBack() } }
+    Component { id: pairing; PairingStep { onBackClicked: Onboarding.pairingBack(); onRetry: Onboarding.renewCode() } }
+    Component { id: success; SuccessStep { onDone: Onboarding.finish() } }
 
     StackView {
         id: stack
         objectName: "onboardingStack"
         anchors.fill: parent
-        initialItem: view.screens[onboarding.step]
+        initialItem: view.screens[Onboarding.step]
         replaceEnter: Transition {
             ParallelAnimation {
                 NumberAnimation { property: "x"; from: stack.width * 0.3; to: 0; duration: 300; easing.type: Easing.InOutQuad }
@@ -36,8 +36,8 @@ Rectangle {
         }
     }
     Connections {
-        target: onboarding
+        target: Onboarding
         // Keyed on every step set, so a new code also brings a fresh screen.
-        function onStepChanged() { stack.replace(null, view.screens[onboarding.step]) }
+        function onStepChanged() { stack.replace(null, view.screens[Onboarding.step]) }
     }
 }

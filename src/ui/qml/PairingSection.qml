@@ -1,35 +1,31 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QuivraMac.Core
+import QuivraMac.Ui
 
-// "Pair New Device", or the code with its countdown while pairing mode is on.
+// "Pair New Device", or the code with its countdown while pairing mode is on. What the loaded
+// code shows comes from the singletons, as ids outside a component are unknown to qmllint 6.4.
 ColumnLayout {
-    id: section
-    property bool isPairing
-    property string pairingToken
-    signal startPairing()
-    signal stopPairing()
-
     spacing: 8
     MenuRowButton {
-        visible: !section.isPairing
+        visible: !ServerManager.isPairing
         title: "Pair New Device"
         symbol: "iphone.gen3"
-        onClicked: section.startPairing()
+        onClicked: ServerManager.togglePairingMode()
     }
     Loader {
-        active: section.isPairing
+        active: ServerManager.isPairing
         visible: active
         Layout.fillWidth: true
         sourceComponent: ColumnLayout {
+            id: code
             spacing: 12
             // The code's real time left, read afresh whenever the panel is shown.
             PairingCountdown {
                 id: countdown
                 objectName: "pairingCountdown"
-                session: serverManager.pairingSession
-                running: section.Window.window !== null && section.Window.window.visible
+                session: ServerManager.pairingSession
+                running: code.Window.window !== null && code.Window.window.visible
             }
 
             RowLayout {
@@ -53,8 +49,9 @@ ColumnLayout {
                 spacing: 6
                 Repeater {
                     // By position, so repeated digits are boxes of their own.
-                    model: section.pairingToken.length
+                    model: ServerManager.pairingToken.length
                     delegate: Rectangle {
+                        id: box
                         required property int index
                         width: 32
                         height: 40
@@ -62,7 +59,7 @@ ColumnLayout {
                         color: Theme.controlBackground
                         Text {
                             anchors.centerIn: parent
-                            text: section.pairingToken.charAt(index)
+                            text: ServerManager.pairingToken.charAt(box.index)
                             font.pixelSize: 20
                             font.family: Theme.monospace
                             font.weight: Font.Medium
@@ -85,7 +82,7 @@ ColumnLayout {
                     font.weight: Font.Medium
                     color: Theme.textSecondary
                 }
-                onClicked: section.stopPairing()
+                onClicked: ServerManager.togglePairingMode()
             }
         }
     }

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // The code to type on the phone with its countdown, a phone that is connecting, or a failure.
 Item {
@@ -10,6 +10,7 @@ Item {
     signal retry()
 
     component InstructionStep: Row {
+        id: instruction
         property int number
         property string text
         spacing: 12
@@ -18,15 +19,16 @@ Item {
             height: 24
             radius: 12
             color: Theme.card
-            Text { anchors.centerIn: parent; text: number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
+            Text { anchors.centerIn: parent; text: instruction.number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
         }
-        Text { anchors.verticalCenter: parent.verticalCenter; text: parent.text; font.pixelSize: 15; color: Theme.text }
+        Text { anchors.verticalCenter: parent.verticalCenter; text: instruction.text; font.pixelSize: 15; color: Theme.text }
     }
     component WaitingIndicator: Row {
         spacing: 4
         Repeater {
             model: 3
             Rectangle {
+                id: dot
                 required property int index
                 width: 8
                 height: 8
@@ -34,7 +36,7 @@ Item {
                 color: Theme.accentColor
                 SequentialAnimation on opacity {
                     loops: Animation.Infinite
-                    PauseAnimation { duration: 200 * index }
+                    PauseAnimation { duration: 200 * dot.index }
                     SequentialAnimation {
                         loops: Animation.Infinite
                         NumberAnimation { from: 1; to: 0.3; duration: 600; easing.type: Easing.InOutQuad }
@@ -50,8 +52,8 @@ Item {
     PairingCountdown {
         id: countdown
         objectName: "onboardingCountdown"
-        session: serverManager.pairingSession
-        running: onboarding.pairingKind === OnboardingFlow.WaitingForDevice
+        session: ServerManager.pairingSession
+        running: Onboarding.pairingKind === Onboarding.WaitingForDevice
                  && step.Window.window !== null && step.Window.window.visible
         onExpired: step.retry()
     }
@@ -64,7 +66,7 @@ Item {
     ColumnLayout {
         anchors.centerIn: parent
         width: parent.width - 96
-        visible: onboarding.pairingKind === OnboardingFlow.WaitingForDevice
+        visible: Onboarding.pairingKind === Onboarding.WaitingForDevice
         spacing: 20
         RowLayout {
             Layout.alignment: Qt.AlignHCenter
@@ -91,8 +93,9 @@ Item {
                     objectName: "onboardingCode"
                     spacing: 12
                     Repeater {
-                        model: onboarding.code.length
+                        model: Onboarding.code.length
                         Rectangle {
+                            id: box
                             required property int index
                             width: 48
                             height: 56
@@ -100,7 +103,7 @@ Item {
                             color: Theme.card
                             Text {
                                 anchors.centerIn: parent
-                                text: onboarding.code.charAt(index)
+                                text: Onboarding.code.charAt(box.index)
                                 font.pixelSize: 32
                                 font.weight: Font.Medium
                                 font.family: Theme.monospace
@@ -135,13 +138,13 @@ Item {
 
     Column {
         anchors.centerIn: parent
-        visible: onboarding.pairingKind === OnboardingFlow.DeviceConnecting
+        visible: Onboarding.pairingKind === Onboarding.DeviceConnecting
         spacing: 12
         BusyIndicator { anchors.horizontalCenter: parent.horizontalCenter; running: parent.visible; width: 64; height: 64 }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             textFormat: Text.StyledText
-            text: "<b>" + onboarding.deviceName.replace(/&/g, "&amp;").replace(/</g, "&lt;") + "</b> is connecting..."
+            text: Ui.deviceConnectingText(Onboarding.deviceName)
             font.pixelSize: 20
             color: Theme.text
         }
@@ -150,11 +153,11 @@ Item {
 
     Column {
         anchors.centerIn: parent
-        visible: onboarding.pairingKind === OnboardingFlow.Error
+        visible: Onboarding.pairingKind === Onboarding.Error
         spacing: 14
         SymbolImage { anchors.horizontalCenter: parent.horizontalCenter; name: "xmark.circle.fill"; size: 64; color: Theme.red }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: onboarding.errorMessage; font.pixelSize: 15; color: Theme.textSecondary }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
+        Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorMessage; font.pixelSize: 15; color: Theme.textSecondary }
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
@@ -169,16 +172,14 @@ Item {
         anchors.centerIn: parent
         modal: true
         padding: 20
-        readonly property string details: "Address: " + serverManager.localIP + "\nUser: " + ui.userName
-                                          + "\nSSH port: 22\nEternal Terminal port: " + serverManager.port
         background: Rectangle { radius: 12; color: Theme.card }
         contentItem: Column {
             spacing: 12
             Text { text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
-            Text { text: manual.details; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
+            Text { text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
-                OnboardingButton { title: "Copy"; primary: false; onClicked: ui.copyText(manual.details) }
+                OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(Ui.manualSetupDetails) }
                 OnboardingButton { title: "Close"; onClicked: manual.close() }
             }
         }

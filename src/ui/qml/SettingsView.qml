@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
@@ -21,6 +22,7 @@ Rectangle {
             Repeater {
                 model: [{ title: "General", symbol: "gear" }, { title: "Logs", symbol: "doc.text" }]
                 delegate: TabButton {
+                    id: tab
                     required property var modelData
                     required property int index
                     text: modelData.title
@@ -30,20 +32,20 @@ Rectangle {
                         spacing: 2
                         SymbolImage {
                             anchors.horizontalCenter: parent.horizontalCenter
-                            name: modelData.symbol
+                            name: tab.modelData.symbol
                             size: 18
-                            color: tabs.currentIndex === index ? Theme.accentColor : Theme.textSecondary
+                            color: tabs.currentIndex === tab.index ? Theme.accentColor : Theme.textSecondary
                         }
                         Text {
                             anchors.horizontalCenter: parent.horizontalCenter
-                            text: modelData.title
+                            text: tab.modelData.title
                             font.pixelSize: 11
-                            color: tabs.currentIndex === index ? Theme.accentColor : Theme.textSecondary
+                            color: tabs.currentIndex === tab.index ? Theme.accentColor : Theme.textSecondary
                         }
                     }
                     background: Rectangle {
                         radius: 6
-                        color: tabs.currentIndex === index ? Theme.withAlpha(Theme.text, 0.08) : "transparent"
+                        color: tabs.currentIndex === tab.index ? Theme.withAlpha(Theme.text, 0.08) : "transparent"
                     }
                 }
             }

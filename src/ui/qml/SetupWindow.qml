@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Window
+import QuivraMac.Ui
 
 Window {
     id: window
@@ -13,9 +14,9 @@ Window {
     maximumHeight: 500
     color: Theme.background
     // Each showing starts at the welcome screen.
-    onVisibleChanged: if (visible) onboarding.appear()
+    onVisibleChanged: if (visible) Onboarding.appear()
     Connections {
-        target: onboarding
+        target: Onboarding
         function onDismiss() { window.close() }
     }
     OnboardingView { anchors.fill: parent }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 Item {
     id: step
@@ -57,7 +58,7 @@ Item {
         Text {
             objectName: "connectedText"
             Layout.alignment: Qt.AlignHCenter
-            text: onboarding.deviceName + " is now connected to this Mac."
+            text: Onboarding.deviceName + " is now connected to this Mac."
             font.pixelSize: 15
             color: Theme.textSecondary
         }
@@ -70,8 +71,8 @@ Item {
                 text: "Launch at login"
                 Accessible.name: text
                 font.pixelSize: 14
-                checked: ui.launchAtLogin
-                onToggled: ui.launchAtLogin = checked
+                checked: Ui.launchAtLogin
+                onToggled: Ui.launchAtLogin = checked
             }
             Text { anchors.verticalCenter: parent.verticalCenter; text: "Recommended"; font.pixelSize: 12; color: Theme.textSecondary }
         }

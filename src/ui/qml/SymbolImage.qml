@@ -9,6 +9,7 @@ Image {
     height: size
     visible: name !== ""
     source: name === "" ? "" : "image://symbol/" + name + "?color=" + color
-    sourceSize: Qt.size(size * 2, size * 2)
+    sourceSize.width: size * 2
+    sourceSize.height: size * 2
     smooth: true
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import QuivraMac.Core
+import QuivraMac.Ui
 
 // Four checks one after another; at the first failure a card explains it and offers help.
 Item {
@@ -10,6 +10,7 @@ Item {
     signal backClicked()
 
     component CheckRow: Row {
+        id: row
         property var item
         spacing: 12
         Item {
@@ -18,7 +19,7 @@ Item {
             Rectangle {
                 anchors.fill: parent
                 anchors.margins: 2
-                visible: item.state === SystemCheck.Pending
+                visible: row.item.state === SystemCheck.Pending
                 radius: width / 2
                 color: "transparent"
                 border.width: 2
@@ -29,28 +30,29 @@ Item {
                 width: 20
                 height: 20
                 visible: running
-                running: item.state === SystemCheck.Checking
+                running: row.item.state === SystemCheck.Checking
             }
             SymbolImage {
                 anchors.fill: parent
-                visible: item.state === SystemCheck.Passed || item.state === SystemCheck.Failed
-                name: item.state === SystemCheck.Passed ? "checkmark.circle.fill" : "xmark.circle.fill"
+                visible: row.item.state === SystemCheck.Passed || row.item.state === SystemCheck.Failed
+                name: row.item.state === SystemCheck.Passed ? "checkmark.circle.fill" : "xmark.circle.fill"
                 size: 24
-                color: item.state === SystemCheck.Passed ? Theme.green : Theme.red
+                color: row.item.state === SystemCheck.Passed ? Theme.green : Theme.red
                 Behavior on opacity { NumberAnimation { duration: 200 } }
             }
         }
         Column {
-            Text { text: item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
+            Text { text: row.item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
             Text {
-                visible: item.state === SystemCheck.Passed
-                text: item.successMessage
+                visible: row.item.state === SystemCheck.Passed
+                text: row.item.successMessage
                 font.pixelSize: 13
                 color: Theme.textSecondary
             }
         }
     }
     component FailedCheckCard: Rectangle {
+        id: card
         signal retry()
         implicitWidth: 500
         implicitHeight: cardContent.implicitHeight + 40
@@ -67,17 +69,17 @@ Item {
                 SymbolImage { name: "exclamationmark.triangle.fill"; size: 18; color: Theme.yellow }
                 Text {
                     objectName: "failureMessage"
-                    text: systemCheck.failedMessage
+                    text: SystemCheck.failedMessage
                     font.pixelSize: 14
                     font.weight: Font.Medium
                     color: Theme.text
                 }
             }
-            AskClaudeCard { width: parent.width; prompt: systemCheck.failedPrompt }
+            AskClaudeCard { width: parent.width; prompt: SystemCheck.failedPrompt }
             AbstractButton {
                 text: "Try Again"
                 Accessible.name: text
-                onClicked: parent.parent.retry()
+                onClicked: card.retry()
                 contentItem: Row {
                     spacing: 6
                     SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
@@ -87,10 +89,10 @@ Item {
         }
     }
 
-    Component.onCompleted: systemCheck.appear()
+    Component.onCompleted: SystemCheck.appear()
     Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: step.visible && systemCheck.allPassed
+        enabled: step.visible && SystemCheck.allPassed
         onActivated: step.allPassedContinue()
     }
     Shortcut {
@@ -112,7 +114,7 @@ Item {
             Text {
                 objectName: "checkTitle"
                 Layout.alignment: Qt.AlignHCenter
-                text: systemCheck.title
+                text: SystemCheck.title
                 font.pixelSize: 24
                 font.weight: Font.DemiBold
                 color: Theme.text
@@ -122,14 +124,14 @@ Item {
                 Layout.preferredWidth: 360
                 spacing: 14
                 Repeater {
-                    model: systemCheck.checks
+                    model: SystemCheck.checks
                     delegate: CheckRow { required property var modelData; item: modelData }
                 }
             }
             FailedCheckCard {
                 Layout.alignment: Qt.AlignHCenter
-                visible: systemCheck.failedIndex >= 0
-                onRetry: systemCheck.start()
+                visible: SystemCheck.failedIndex >= 0
+                onRetry: SystemCheck.start()
             }
         }
     }
@@ -137,8 +139,8 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24
-        title: systemCheck.allPassed ? "Continue" : "Back"
-        primary: systemCheck.allPassed
-        onClicked: systemCheck.allPassed ? step.allPassedContinue() : step.backClicked()
+        title: SystemCheck.allPassed ? "Continue" : "Back"
+        primary: SystemCheck.allPassed
+        onClicked: SystemCheck.allPassed ? step.allPassedContinue() : step.backClicked()
     }
 }

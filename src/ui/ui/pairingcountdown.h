@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <QtQml/qqmlregistration.h>
 
 // A rendering of the pairing code's expiry, nothing more: while running it shows the session's
 // real time left, also after being hidden or when the code is renewed elsewhere. It never
@@ -12,6 +13,7 @@
 class PairingCountdown : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(PairingSession *session READ session WRITE setSession NOTIFY sessionChanged)
     // Ticks only while shown: bound to the visibility of the view that shows it.
     Q_PROPERTY(bool running READ isRunning WRITE setRunning NOTIFY runningChanged)

@@ -3,12 +3,14 @@
 #include "onboarding/scheduler.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 // The assistant prompt card's logic: a three-line preview, and a copy of the whole prompt that
 // reads "Copied!" for two seconds. Each copy resets on its own schedule.
 class PromptCard : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
     Q_PROPERTY(QString prompt READ prompt WRITE setPrompt NOTIFY promptChanged)
     Q_PROPERTY(QString preview READ preview NOTIFY promptChanged)
     Q_PROPERTY(bool copied READ copied NOTIFY copiedChanged)

@@ -6,7 +6,6 @@
 #include "platform/userdefaults.h"
 #include "server/servermanager.h"
 #include "ui/formats.h"
-#include "ui/windowmanager.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -17,12 +16,14 @@ const QString autoStartKey = QStringLiteral("autoStartServer");
 const QString launchAtLoginKey = QStringLiteral("launchAtLogin");
 } // namespace
 
-UiController::UiController(ServerManager *serverManager, WindowManager *windows, QObject *parent)
+UiController::UiController(ServerManager *serverManager, QObject *parent)
     : QObject(parent)
     , m_serverManager(serverManager)
-    , m_windows(windows)
 {
     userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
+    if (serverManager)
+        connect(serverManager, &ServerManager::localIPChanged, this,
+                &UiController::manualSetupDetailsChanged);
 }
 
 bool UiController::autoStartServer() const
@@ -57,6 +58,16 @@ void UiController::setLaunchAtLogin(bool on)
     Q_EMIT launchAtLoginChanged();
 }
 
+QString UiController::manualSetupDetails() const
+{
+    if (!m_serverManager)
+        return {};
+    return QStringLiteral("Address: %1\nUser: %2\nSSH port: %3\nEternal Terminal port: %4")
+        .arg(m_serverManager->localIP(), userName(),
+             QString::number(m_serverManager->environment().sshPort),
+             QString::number(m_serverManager->port()));
+}
+
 void UiController::toggleServer()
 {
     if (!m_serverManager)
@@ -67,10 +78,15 @@ void UiController::toggleServer()
         m_serverManager->startServer();
 }
 
+void UiController::clearLogs()
+{
+    if (m_serverManager)
+        m_serverManager->setLogs({});
+}
+
 void UiController::openWindow(const QString &id)
 {
-    if (m_windows)
-        m_windows->open(id);
+    Q_EMIT windowRequested(id);
 }
 
 void UiController::quit()
@@ -94,4 +110,10 @@ QString UiController::uptimeText(double seconds) const
 QString UiController::countdownText(double seconds) const
 {
     return formats::countdown(seconds);
+}
+
+QString UiController::deviceConnectingText(const QString &deviceName) const
+{
+    return QStringLiteral("<b>") + deviceName.toHtmlEscaped()
+        + QStringLiteral("</b> is connecting...");
 }

@@ -1,17 +1,16 @@
 #include "ui/windowmanager.h"
 
-#include "onboarding/onboardingflow.h"
-#include "onboarding/systemcheck.h"
-#include "ui/pairingcountdown.h"
-#include "ui/promptcard.h"
 #include "ui/symbolprovider.h"
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
-#include <QQmlContext>
 #include <QQuickWindow>
 #include <QScreen>
+
+// Generated with module QuivraMac.Ui. Referring to it keeps the module's type registration in
+// the static link; the engine runs it when a view first imports the module.
+void qml_register_types_QuivraMac_Ui();
 
 namespace {
 const QHash<QString, QString> sources {
@@ -21,20 +20,25 @@ const QHash<QString, QString> sources {
 };
 }
 
-WindowManager::WindowManager(ContextSetup setup, QObject *parent)
+WindowManager::WindowManager(const ViewObjects &objects, QObject *parent)
     : QObject(parent)
-    , m_setup(std::move(setup))
+    , m_objects(objects)
 { }
 
-WindowManager::~WindowManager() = default;
-
-void WindowManager::registerTypes()
+WindowManager::~WindowManager()
 {
-    qmlRegisterType<PairingCountdown>("QuivraMac.Core", 1, 0, "PairingCountdown");
-    qmlRegisterType<PromptCard>("QuivraMac.Core", 1, 0, "PromptCard");
-    const QString owned = QStringLiteral("made by the application");
-    qmlRegisterUncreatableType<OnboardingFlow>("QuivraMac.Core", 1, 0, "OnboardingFlow", owned);
-    qmlRegisterUncreatableType<SystemCheck>("QuivraMac.Core", 1, 0, "SystemCheck", owned);
+    // Bindings of a window outliving its engine would run against a torn-down context.
+    for (const QPointer<QQuickWindow> &window : std::as_const(m_windows))
+        delete window.get();
+    m_engine.reset();
+}
+
+void WindowManager::prepareEngine(QQmlEngine *engine, const ViewObjects &objects)
+{
+    [[maybe_unused]] volatile auto keepRegistration = &qml_register_types_QuivraMac_Ui;
+    engine->addImportPath(QStringLiteral("qrc:/"));
+    engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    objects.provideTo(engine);
 }
 
 QQuickWindow *WindowManager::create(const QString &id)
@@ -44,11 +48,8 @@ QQuickWindow *WindowManager::create(const QString &id)
     if (!sources.contains(id))
         return nullptr;
     if (!m_engine) {
-        registerTypes();
         m_engine = std::make_unique<QQmlApplicationEngine>();
-        m_engine->addImportPath(QStringLiteral("qrc:/"));
-        m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-        m_setup(m_engine->rootContext());
+        prepareEngine(m_engine.get(), m_objects);
     }
     QQmlComponent component(m_engine.get(), QUrl(sources.value(id)));
     auto *window = qobject_cast<QQuickWindow *>(component.create());

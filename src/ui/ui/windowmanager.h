@@ -1,16 +1,17 @@
 #pragma once
 
+#include "ui/viewobjects.h"
+
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
 #include <QRect>
 
-#include <functional>
 #include <memory>
 
 class QQmlApplicationEngine;
-class QQmlContext;
+class QQmlEngine;
 
 // The app's windows by identifier: "panel", "onboarding" and "settings". The QML engine is made
 // when a window first opens, so an app with no window open stays small.
@@ -19,10 +20,9 @@ class WindowManager : public QObject
     Q_OBJECT
 
 public:
-    // Gives the context the objects the views read ("serverManager", "app", "ui").
-    using ContextSetup = std::function<void(QQmlContext *)>;
-
-    explicit WindowManager(ContextSetup setup, QObject *parent = nullptr);
+    // The objects must outlive the manager: its windows read them until they close.
+    explicit WindowManager(const ViewObjects &objects, QObject *parent = nullptr);
+    // The windows first, then their engine.
     ~WindowManager() override;
 
     // Shows the window, raises it and gives it focus.
@@ -33,12 +33,13 @@ public:
     QQuickWindow *window(const QString &id) const { return m_windows.value(id); }
     bool hasEngine() const { return m_engine != nullptr; }
 
-    static void registerTypes();
+    // What every engine that loads the views needs before it loads anything.
+    static void prepareEngine(QQmlEngine *engine, const ViewObjects &objects);
 
 private:
     QQuickWindow *create(const QString &id);
 
-    ContextSetup m_setup;
+    ViewObjects m_objects;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QHash<QString, QPointer<QQuickWindow>> m_windows;
 };
