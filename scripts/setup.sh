@@ -8,6 +8,8 @@ packages=(
     # build
     cmake ninja-build g++ pkgconf qt6-base-dev qt6-base-dev-tools libgl-dev
     libavahi-compat-libdnssd-dev qt6-declarative-dev qt6-svg-dev
+    # the checks the test command makes: formatting and the views' lint
+    clang-format qt6-declarative-dev-tools
     # the windows' QML modules
     qml6-module-qtqml qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
     qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtqml-workerscript
