@@ -1,4 +1,5 @@
 #include "devices/authorizedkeysrewrite.h"
+#include "devices/deviceregistry.h"
 #include "devices/sshkey.h"
 #include "testsupport.h"
 
@@ -73,6 +74,14 @@ QStringList temporaries()
 {
     return QDir(QDir::homePath() + "/.ssh")
         .entryList({ ".authorized_keys.quivra-*" }, QDir::Files | QDir::Hidden);
+}
+
+QStringList names(const QList<PairedDevice> &devices)
+{
+    QStringList result;
+    for (const PairedDevice &device : devices)
+        result.append(device.name);
+    return result;
 }
 
 } // namespace
@@ -267,6 +276,66 @@ private Q_SLOTS:
         QCOMPARE(authorizedkeysrewrite::removeKey(keysFile(), fingerprint("k")).kind,
                  Kind::Removed);
         QCOMPARE(temporaries(), QStringList { ".authorized_keys.quivra-fresh" });
+    }
+
+    void registryListsWhatCanLogIn()
+    {
+        const QString support = QDir::homePath() + "/support";
+        writeFile(support + "/devices.json", "{ not json");
+        writeFile(keysFile(),
+                  text({ key("user"), "", appComment, key("old"), key("a"), key("b") }));
+        const QDateTime t(QDate(2025, 3, 1), QTime(10, 0), Qt::UTC);
+        {
+            DeviceRegistry registry(support);
+            QCOMPARE(registry.devices().size(), 1);
+            QCOMPARE(contents(support + "/devices.json"), "{ not json");
+            QVERIFY(!registry.record("Ann's iPhone", key("a"), "192.168.1.20", t));
+            QVERIFY(!registry.record("iPad", key("b"), "10.0.0.7", t.addDays(1)));
+            QVERIFY(!registry.record("Ben's iPad", key("b", "renamed"), "10.0.0.8", t.addDays(2)));
+        }
+        QCOMPARE(contents(support + "/devices.json.bad"), "{ not json");
+        QCOMPARE(modeOf(support + "/devices.json"), 0600);
+
+        DeviceRegistry registry(support);
+        const QList<PairedDevice> devices = registry.devices();
+        QCOMPARE(
+            names(devices),
+            QStringList({ "Ben's iPad", "Ann's iPhone", "Unknown device (added 2024-05-06)" }));
+        QCOMPARE(devices[0],
+                 PairedDevice({ "Ben's iPad", "ssh-ed25519", fingerprint("b"), "renamed",
+                                t.addDays(2), "10.0.0.8" }));
+        QCOMPARE(devices[2].fingerprint, fingerprint("old"));
+        QVERIFY(devices[2].address.isEmpty());
+
+        QSignalSpy changed(&registry, &DeviceRegistry::devicesChanged);
+        writeFile(keysFile(), key("b") + "\n"); // by hand
+        QVERIFY(changed.wait());
+        QCOMPARE(names(registry.devices()), QStringList { "Ben's iPad" });
+    }
+
+    void revokeFindsExactlyOneDevice()
+    {
+        const QString support = QDir::homePath() + "/support-revoke";
+        writeFile(keysFile(), text({ appComment, key("old"), key("a"), key("b"), key("c") }));
+        DeviceRegistry registry(support);
+        const QDateTime t = QDateTime::currentDateTimeUtc();
+        QVERIFY(!registry.record("iPhone", key("a"), {}, t));
+        QVERIFY(!registry.record("IPHONE", key("b"), {}, t));
+        QVERIFY(!registry.record("iPad", key("c"), {}, t));
+
+        const auto ambiguous = registry.revoke("iphone");
+        QVERIFY(!ambiguous.ok);
+        QVERIFY(ambiguous.message.contains(fingerprint("a"))
+                && ambiguous.message.contains(fingerprint("b")));
+        QVERIFY(!registry.revoke("iPod").ok);
+        QCOMPARE(registry.devices().size(), 4);
+
+        QVERIFY(registry.revoke(fingerprint("a")).ok);
+        QVERIFY(registry.revoke("iphone").ok);
+        QVERIFY(registry.revoke("unknown device (added 2024-05-06)").ok);
+        QCOMPARE(contents(keysFile()), key("c") + "\n");
+        QCOMPARE(names(registry.devices()), QStringList { "iPad" });
+        QVERIFY(!contents(support + "/devices.json").contains(fingerprint("b").toUtf8()));
     }
 };
 
