@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+#include <optional>
+
+// The public key one line of authorized_keys (or a .pub file) holds.
+struct SshKey
+{
+    QString type; // "ssh-ed25519", "ssh-rsa", ...
+    QByteArray blob; // the decoded base64: what sshd compares
+    QString comment;
+
+    // "SHA256:" and the unpadded base64 of the blob's SHA-256, as `ssh-keygen -lf` prints it.
+    QString fingerprint() const;
+
+    // "[options ]type base64[ comment]", with a CR LF or LF line end or none. Nothing for
+    // comments, blank lines and anything else that sshd would not take for a key.
+    static std::optional<SshKey> fromLine(QByteArrayView line);
+};
