@@ -6,6 +6,9 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QTextStream>
@@ -187,6 +190,56 @@ int logs(ControlClient &client, bool follow)
     platform::quitOnTerminationSignals(*QCoreApplication::instance());
     QCoreApplication::exec();
     return Success;
+}
+
+int devices(ControlClient &client, bool json)
+{
+    const std::optional<QVariant> text = client.call(QStringLiteral("Devices"));
+    if (!text)
+        return failedCall(client);
+    if (json) {
+        out() << text->toString() << Qt::endl;
+        return Success;
+    }
+    const QJsonArray list = QJsonDocument::fromJson(text->toString().toUtf8()).array();
+    if (list.isEmpty()) {
+        out() << "No paired phones." << Qt::endl;
+        return Success;
+    }
+    out() << QStringLiteral("%1  %2  %3\n")
+                 .arg(QStringLiteral("Name"), -28)
+                 .arg(QStringLiteral("Paired"), -16)
+                 .arg(QStringLiteral("Fingerprint"));
+    for (const QJsonValue &value : list) {
+        const QJsonObject device = value.toObject();
+        const QDateTime paired =
+            QDateTime::fromString(device.value(QStringLiteral("pairedAt")).toString(), Qt::ISODate);
+        out() << QStringLiteral("%1  %2  %3\n")
+                     .arg(device.value(QStringLiteral("name")).toString().left(28), -28)
+                     .arg(paired.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")), -16)
+                     .arg(device.value(QStringLiteral("fingerprint")).toString());
+    }
+    out() << Qt::flush;
+    return Success;
+}
+
+int revoke(ControlClient &client, const QString &nameOrFingerprint, bool yes)
+{
+    if (!yes) {
+        out() << "Revoke \"" << nameOrFingerprint
+              << "\"? It will no longer be able to log in to this computer. [y/N] " << Qt::flush;
+        const QString answer = QTextStream(stdin).readLine().trimmed().toLower();
+        if (answer != QLatin1String("y") && answer != QLatin1String("yes")) {
+            err() << "Nothing revoked." << Qt::endl;
+            return Failed;
+        }
+    }
+    const auto reply = client.callWith(QStringLiteral("Revoke"), { nameOrFingerprint });
+    if (!reply)
+        return failedCall(client);
+    const bool ok = reply->value(0).toBool();
+    (ok ? out() : err()) << reply->value(1).toString() << Qt::endl;
+    return ok ? Success : Failed;
 }
 
 } // namespace commands

@@ -14,5 +14,8 @@ int start(ControlClient &client);
 int stop(ControlClient &client);
 int pair(ControlClient &client);
 int logs(ControlClient &client, bool follow);
+int devices(ControlClient &client, bool json);
+// Asks before revoking unless `yes`; a phone revoked can no longer log in.
+int revoke(ControlClient &client, const QString &nameOrFingerprint, bool yes);
 
 } // namespace commands

@@ -37,12 +37,19 @@ QVariant ControlClient::property(const char *name) const
 
 std::optional<QVariant> ControlClient::call(const QString &method)
 {
-    const QDBusMessage reply = m_interface.call(method);
+    const auto reply = callWith(method, {});
+    return reply ? std::optional(reply->value(0)) : std::nullopt;
+}
+
+std::optional<QVariantList> ControlClient::callWith(const QString &method,
+                                                    const QVariantList &arguments)
+{
+    const QDBusMessage reply = m_interface.callWithArgumentList(QDBus::Block, method, arguments);
     if (reply.type() == QDBusMessage::ErrorMessage) {
         m_lastError = reply.errorMessage();
         return std::nullopt;
     }
-    return reply.arguments().value(0);
+    return reply.arguments();
 }
 
 void ControlClient::onPropertiesChanged(const QString &interface, const QVariantMap &changed,

@@ -20,6 +20,8 @@ public:
     QVariant property(const char *name) const;
     // Calls a method and waits for it; the reply's first value, or nothing on an error.
     std::optional<QVariant> call(const QString &method);
+    // With arguments; every value of the reply, or nothing on an error.
+    std::optional<QVariantList> callWith(const QString &method, const QVariantList &arguments);
     QString lastError() const { return m_lastError; }
 
 Q_SIGNALS:

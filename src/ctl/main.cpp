@@ -19,6 +19,8 @@ constexpr Command commandList[] = {
     { "stop", "Stop the Quivra server." },
     { "pair", "Switch pairing mode on, show the code and wait for a phone to pair." },
     { "logs", "Print the app's log." },
+    { "devices", "List the phones that can log in to this computer." },
+    { "revoke", "Take a phone's key away, by its name or fingerprint." },
 };
 
 QString overview()
@@ -27,7 +29,7 @@ QString overview()
                                   "QuivraMac app.\n\nCommands:\n");
     for (const Command &command : commandList)
         text += QStringLiteral("  %1  %2\n")
-                    .arg(QLatin1String(command.name), -7)
+                    .arg(QLatin1String(command.name), -8)
                     .arg(QLatin1String(command.summary));
     return text + QStringLiteral("\nRun \"quivractl <command> --help\" for a command's options.\n");
 }
@@ -64,13 +66,27 @@ int main(int argc, char *argv[])
                                     QStringLiteral("Keep printing new log lines."));
     if (name == QLatin1String("status"))
         parser.addOption(json);
+    const QCommandLineOption yes({ QStringLiteral("y"), QStringLiteral("yes") },
+                                 QStringLiteral("Revoke without asking first."));
     if (name == QLatin1String("logs"))
         parser.addOption(follow);
+    if (name == QLatin1String("devices"))
+        parser.addOption(json);
+    if (name == QLatin1String("revoke")) {
+        parser.addOption(yes);
+        parser.addPositionalArgument(QStringLiteral("phone"),
+                                     QStringLiteral("The phone's name or SHA256 fingerprint."));
+    }
     arguments.removeAt(1);
     arguments[0] = QStringLiteral("quivractl ") + name;
     parser.process(arguments);
-    if (!parser.positionalArguments().isEmpty()) {
-        err << "Unexpected argument \"" << parser.positionalArguments().constFirst() << "\".\n";
+    const qsizetype wanted = name == QLatin1String("revoke") ? 1 : 0;
+    if (parser.positionalArguments().size() < wanted) {
+        err << "Which phone? Give its name or fingerprint (see quivractl devices).\n";
+        return commands::Usage;
+    }
+    if (parser.positionalArguments().size() > wanted) {
+        err << "Unexpected argument \"" << parser.positionalArguments().value(wanted) << "\".\n";
         return commands::Usage;
     }
 
@@ -87,5 +103,10 @@ int main(int argc, char *argv[])
         return commands::stop(client);
     if (name == QLatin1String("pair"))
         return commands::pair(client);
+    if (name == QLatin1String("devices"))
+        return commands::devices(client, parser.isSet(json));
+    if (name == QLatin1String("revoke"))
+        return commands::revoke(client, parser.positionalArguments().constFirst(),
+                                parser.isSet(yes));
     return commands::logs(client, parser.isSet(follow));
 }

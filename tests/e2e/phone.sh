@@ -145,4 +145,15 @@ step "quivractl status"
 "$ctl" status | tee "$work/status.out"
 grep -q "^Last paired:  Test Phone$" "$work/status.out" || fail "status does not show Test Phone"
 grep -q "^Pairing:      off$" "$work/status.out" || fail "pairing mode is still on"
+
+step "user: quivractl devices, then revoke the phone"
+fingerprint=$(ssh-keygen -lf "$work/phone_key.pub" | cut -d' ' -f2)
+"$ctl" devices | tee "$work/devices.out"
+grep -q "^Test Phone .*$fingerprint$" "$work/devices.out" || fail "devices does not list Test Phone"
+"$ctl" revoke --yes "Test Phone" || fail "revoke failed"
+"$ctl" devices --json | grep -qF "$fingerprint" && fail "the revoked phone is still listed"
+if ssh -i "$work/phone_key" -o IdentitiesOnly=yes -o BatchMode=yes -o StrictHostKeyChecking=no \
+    -o UserKnownHostsFile=/dev/null -o LogLevel=ERROR "$(id -un)@127.0.0.1" true; then
+    fail "ssh with the revoked key still logs in"
+fi
 echo "PASS"

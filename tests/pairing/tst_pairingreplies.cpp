@@ -149,6 +149,12 @@ private Q_SLOTS:
         QVERIFY(manager.logs().contains("[QuivraMac] Paired with Work Phone\n"));
         QVERIFY(console.lines().contains("Pairing Success! Device: Work Phone"));
         QVERIFY(console.lines().contains("Successfully added key to authorized_keys"));
+        // Listed as a paired phone, with where it paired from.
+        const QList<PairedDevice> devices = manager.devices().devices();
+        QCOMPARE(devices.size(), 1);
+        QCOMPARE(devices.at(0).name, "Work Phone");
+        QCOMPARE(devices.at(0).address, "127.0.0.1");
+        QCOMPARE(devices.at(0).keyComment, "me@phone");
     }
 
     void deviceNameIsDefaultedAndDefused()

@@ -5,6 +5,9 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMetaProperty>
 
 #include <utility>
@@ -34,6 +37,7 @@ ServerManagerAdaptor::ServerManagerAdaptor(ServerManager *manager)
     : QDBusAbstractAdaptor(manager)
     , m_manager(manager)
 {
+    connect(manager, &ServerManager::devicesChanged, this, &ServerManagerAdaptor::DevicesChanged);
     // Every observable property of the manager is announced when it changes.
     const QMetaObject *meta = manager->metaObject();
     const QMetaMethod onChange =
@@ -121,6 +125,29 @@ QString ServerManagerAdaptor::lastPairedDevice() const
 qlonglong ServerManagerAdaptor::pairingExpiresAt() const
 {
     return m_manager->pairingExpiresAt();
+}
+
+QString ServerManagerAdaptor::Devices() const
+{
+    QJsonArray list;
+    const QList<PairedDevice> devices = m_manager->devices().devices();
+    for (const PairedDevice &device : devices) {
+        list.append(
+            QJsonObject { { QStringLiteral("name"), device.name },
+                          { QStringLiteral("keyType"), device.keyType },
+                          { QStringLiteral("fingerprint"), device.fingerprint },
+                          { QStringLiteral("keyComment"), device.keyComment },
+                          { QStringLiteral("pairedAt"), device.pairedAt.toString(Qt::ISODate) },
+                          { QStringLiteral("address"), device.address } });
+    }
+    return QString::fromUtf8(QJsonDocument(list).toJson(QJsonDocument::Compact));
+}
+
+bool ServerManagerAdaptor::Revoke(const QString &nameOrFingerprint, QString &message)
+{
+    const DeviceRegistry::Revocation result = m_manager->devices().revoke(nameOrFingerprint);
+    message = result.message;
+    return result.ok;
 }
 
 void ServerManagerAdaptor::StartServer()

@@ -59,6 +59,14 @@ public Q_SLOTS:
     void StopServer();
     void TogglePairingMode();
     QString Logs() const;
+    // The paired phones as a JSON array of {name, keyType, fingerprint, keyComment, pairedAt,
+    // address}, newest first.
+    QString Devices() const;
+    // Revokes one phone by name or fingerprint; false with the reason when it could not.
+    bool Revoke(const QString &nameOrFingerprint, QString &message);
+
+Q_SIGNALS:
+    void DevicesChanged();
 
 private Q_SLOTS:
     void announceChange();

@@ -7,4 +7,6 @@ struct PairingResult
 {
     QString publicKey;
     QString deviceName;
+    // Where the request came from, for the list of paired devices.
+    QString address {};
 };

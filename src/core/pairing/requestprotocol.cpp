@@ -95,6 +95,6 @@ void PairingListener::handlePairRequest(const QString &requestLine, const QStrin
     }
     console::line(QStringLiteral("Pairing Success! Device: ") + deviceName);
     if (onPairingSuccess)
-        onPairingSuccess({ key, deviceName });
+        onPairingSuccess({ key, deviceName, connection->peerAddress() });
     connection->sendResponse(QStringLiteral("200 OK"), QStringLiteral("Paired Successfully"));
 }

@@ -19,7 +19,9 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
                 [this](const QString &line) { log(line); })
     , m_pairing(m_env.now)
     , m_keys([this](const QString &line) { log(line); })
+    , m_devices(supportDirectory())
 {
+    connect(&m_devices, &DeviceRegistry::devicesChanged, this, &ServerManager::devicesChanged);
     connect(&m_process, &ServerProcess::runningChanged, this, &ServerManager::isRunningChanged);
     connect(&m_process, &ServerProcess::uptimeChanged, this, &ServerManager::uptimeChanged);
     connect(&m_process, &ServerProcess::output, this, &ServerManager::appendServerOutput);

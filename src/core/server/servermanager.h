@@ -1,5 +1,6 @@
 #pragma once
 
+#include "devices/deviceregistry.h"
 #include "pairing/pairinglistener.h"
 #include "pairing/pairingsession.h"
 #include "server/keyinstaller.h"
@@ -80,6 +81,9 @@ public:
     // logged reason) on failure.
     bool installAuthorizedKey(const QString &publicKey);
 
+    // The phones that can log in, and the revoking of one.
+    DeviceRegistry &devices() { return m_devices; }
+
     // Present while the server runs, until a key has been installed.
     PairingListener *pairingListener() const { return m_pairingListener.get(); }
     // The running child, or nullptr; after the child exits by itself it stays until a stop.
@@ -95,6 +99,7 @@ Q_SIGNALS:
     void lastPairedDeviceChanged();
     void pairingExpiresAtChanged();
     void lastFailureChanged();
+    void devicesChanged();
 
 private:
     void log(const QString &message);
@@ -117,6 +122,7 @@ private:
     OrphanReaper m_orphans;
     PairingSession m_pairing;
     KeyInstaller m_keys;
+    DeviceRegistry m_devices;
     // Dropped from inside its own callbacks, so deleted later.
     struct DeleteLater
     {

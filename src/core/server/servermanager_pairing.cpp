@@ -2,6 +2,8 @@
 #include "platform/console.h"
 #include "server/servermanager.h"
 
+#include <QDateTime>
+
 void ServerManager::togglePairingMode()
 {
     if (m_pairing.isPairing()) {
@@ -36,6 +38,9 @@ void ServerManager::startPairingListener()
         setLastPairedDevice(result.deviceName);
         m_pairing.switchOff();
         log(QStringLiteral("[QuivraMac] Paired with ") + result.deviceName);
+        if (const auto error = m_devices.record(result.deviceName, result.publicKey, result.address,
+                                                QDateTime::currentDateTimeUtc()))
+            log(QStringLiteral("[QuivraMac] Paired device not listed: ") + *error);
     };
     m_pairingListener->start(m_env.pairingPort, m_env.advertise);
     log(QStringLiteral("[QuivraMac] Bonjour listener started (iOS can discover)"));
