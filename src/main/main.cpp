@@ -1,5 +1,6 @@
 #include "app/quivramacapp.h"
 #include "control/controlservice.h"
+#include "control/pairingnotifier.h"
 #include "latenessprobe.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
@@ -51,6 +52,9 @@ int main(int argc, char *argv[])
     ServerManager &manager = quivra.serverManager();
     if (claim == ControlService::Claim::Claimed)
         ControlService::publish(&manager);
+    std::unique_ptr<PairingNotifier> notifier;
+    if (claim != ControlService::Claim::NoSessionBus)
+        notifier = std::make_unique<PairingNotifier>(&manager);
 
     const bool headless = QGuiApplication::platformName() == QLatin1String("offscreen")
         || QGuiApplication::platformName() == QLatin1String("minimal");

@@ -1,4 +1,6 @@
 #include "appbundle.h"
+#include "pairingfixture.h"
+#include "phoneclient.h"
 #include "testsupport.h"
 
 #include <QDBusConnection>
@@ -8,6 +10,24 @@
 #include <csignal>
 
 using testsupport::quivractl;
+
+// The desktop's notification service, as far as the app uses it.
+class Notifications : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    QStringList shown;
+
+public Q_SLOTS:
+    uint Notify(const QString &, uint, const QString &, const QString &summary, const QString &body,
+                const QStringList &, const QVariantMap &, int)
+    {
+        shown.append(summary + " | " + body);
+        return uint(shown.size());
+    }
+};
 
 // The running app driven over its session-bus interface, directly and through quivractl.
 class TestControl : public QObject
@@ -39,6 +59,36 @@ private Q_SLOTS:
     }
 
     void cleanupTestCase() { m_bundle.stop(); }
+
+    void pairedPhoneIsAnnouncedListedAndRevoked()
+    {
+        Notifications notifications;
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        QVERIFY(bus.registerService("org.freedesktop.Notifications"));
+        QVERIFY(bus.registerObject("/org/freedesktop/Notifications", &notifications,
+                                   QDBusConnection::ExportAllSlots));
+        QDBusInterface app = manager();
+        QTRY_VERIFY(app.property("isRunning").toBool());
+        if (!app.property("isPairing").toBool())
+            app.call("TogglePairingMode");
+        const QByteArray key = testsupport::ed25519Key("phone");
+        const QByteArray reply = testsupport::exchange(
+            8080,
+            "POST /pair?token=" + app.property("pairingToken").toString().toLatin1()
+                + " HTTP/1.1\r\nX-Device-Name: Ana's iPhone\r\n\r\n" + key);
+        QVERIFY2(reply.endsWith("Paired Successfully"), reply.constData());
+        QTRY_COMPARE(notifications.shown.size(), 1);
+        QVERIFY(notifications.shown.at(0).startsWith("Paired with Ana's iPhone | "));
+        QVERIFY(notifications.shown.at(0).contains("SHA256:"));
+
+        QVERIFY(quivractl({ "devices" }).second.contains("Ana's iPhone"));
+        QCOMPARE(quivractl({ "revoke" }).first, 2); // which phone?
+        QCOMPARE(quivractl({ "revoke", "--yes", "nobody" }).first, 1);
+        QCOMPARE(quivractl({ "revoke", "--yes", "ana's iphone" }).first, 0);
+        QVERIFY(quivractl({ "devices" }).second.contains("No paired phones."));
+        bus.unregisterService("org.freedesktop.Notifications");
+        app.call("StartServer"); // the listener ends with a pairing
+    }
 
     void methodsChangeTheSameStateAsThePanel()
     {
