@@ -11,6 +11,7 @@
 #include "ui/windowmanager.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QSystemTrayIcon>
@@ -26,6 +27,7 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
 #endif
     QApplication app(argc, argv);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/QuivraMac/Icons/quivramac.svg")));
     QApplication::setOrganizationName(QStringLiteral("Quivra"));
     QApplication::setApplicationName(QStringLiteral("QuivraMac"));
     QApplication::setApplicationVersion(QStringLiteral(QUIVRA_VERSION));

@@ -3,7 +3,6 @@
 #include "qmlharness.h"
 #include "ui/formats.h"
 #include "ui/pairingcountdown.h"
-#include "ui/trayicon.h"
 #include "ui/uicontroller.h"
 
 class TestUiLogic : public QObject
@@ -76,8 +75,6 @@ private Q_SLOTS:
         QVERIFY(ui.autoStartServer() == false); // the harness turned it off
         ui.setAutoStartServer(true);
         QVERIFY(ui.autoStartServer());
-        QCOMPARE(TrayIcon::symbolName(false), "questionmark.circle");
-        QCOMPARE(TrayIcon::symbolName(true), "terminal.fill");
     }
 
     void pairingScreenTexts()

@@ -15,11 +15,16 @@ Item {
     ColumnLayout {
         anchors.centerIn: parent
         spacing: 0
-        SymbolImage {
+        // The application's own icon, 128 points square.
+        Image {
+            objectName: "appIcon"
             Layout.alignment: Qt.AlignHCenter
-            name: "terminal.fill"
-            size: 128
-            color: Theme.accentColor
+            Layout.preferredWidth: 128
+            Layout.preferredHeight: 128
+            source: "qrc:/QuivraMac/Icons/quivramac.svg"
+            sourceSize.width: 256
+            sourceSize.height: 256
+            smooth: true
             scale: step.iconScale
             opacity: step.iconOpacity
         }
