@@ -21,6 +21,9 @@ Item {
             Layout.alignment: Qt.AlignHCenter
             Layout.preferredWidth: 128
             Layout.preferredHeight: 128
+            Layout.maximumWidth: 128
+            Layout.maximumHeight: 128
+            fillMode: Image.PreserveAspectFit
             source: "qrc:/QuivraMac/Icons/quivramac.svg"
             sourceSize.width: 256
             sourceSize.height: 256
