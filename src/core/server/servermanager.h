@@ -52,7 +52,7 @@ public:
     // Why the last start did not give a running server, or why it stopped by itself.
     ServerFailure lastFailure() const { return m_failure; }
 
-    // The settings window clears the log by assigning an empty text.
+    // Replaces the whole log; clearing it from the settings window assigns an empty text.
     void setLogs(const QString &logs);
 
     Q_INVOKABLE void startServer();
