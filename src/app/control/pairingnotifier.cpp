@@ -6,7 +6,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 PairingNotifier::PairingNotifier(ServerManager *manager, QObject *parent)
     : QObject(parent)

@@ -107,11 +107,6 @@ QString UiController::uptimeText(double seconds) const
     return formats::uptime(seconds);
 }
 
-QString UiController::countdownText(double seconds) const
-{
-    return formats::countdown(seconds);
-}
-
 QString UiController::deviceConnectingText(const QString &deviceName) const
 {
     return QStringLiteral("<b>") + deviceName.toHtmlEscaped()

@@ -38,7 +38,6 @@ public:
     Q_INVOKABLE void quit();
     Q_INVOKABLE void copyText(const QString &text);
     Q_INVOKABLE QString uptimeText(double seconds) const;
-    Q_INVOKABLE QString countdownText(double seconds) const;
     // Styled text with the phone's name in bold; the name, sent by the phone, stays plain text.
     Q_INVOKABLE QString deviceConnectingText(const QString &deviceName) const;
 
