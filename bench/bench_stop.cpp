@@ -9,7 +9,7 @@
 int main(int argc, char *argv[])
 {
     testsupport::isolateHome();
-    testsupport::quietConsole();
+    testsupport::routeLogging();
     QCoreApplication app(argc, argv);
     auto processes = std::make_shared<testsupport::GuardedProcessTable>();
     ServerEnvironment env = testsupport::environment(processes);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/console.h"
+#include "platform/logging.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -21,10 +21,12 @@ public:
             const qint64 late = m_clock.restart() - interval;
             m_worst = std::max(m_worst, late);
             if (late > 20)
-                console::line(QStringLiteral("[bench] main loop stalled %1 ms").arg(late));
+                qCInfo(lcConsole).nospace().noquote()
+                    << QStringLiteral("[bench] main loop stalled %1 ms").arg(late);
         });
         connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
-            console::line(QStringLiteral("[bench] main loop lateness max %1 ms").arg(m_worst));
+            qCInfo(lcConsole).nospace().noquote()
+                << QStringLiteral("[bench] main loop lateness max %1 ms").arg(m_worst);
         });
         // From the loop's first turn: start-up before it is measured on its own.
         QTimer::singleShot(0, this, [this] {

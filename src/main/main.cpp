@@ -4,7 +4,7 @@
 #include "latenessprobe.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "platform/quitsignals.h"
 #include "ui/trayicon.h"
 #include "ui/uicontroller.h"
@@ -18,6 +18,7 @@
 
 int main(int argc, char *argv[])
 {
+    logging::install();
     // Without a display the app runs as it otherwise would, only with no windows.
     const bool noDisplay = qEnvironmentVariableIsEmpty("DISPLAY")
         && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
@@ -39,12 +40,12 @@ int main(int argc, char *argv[])
     // server as if it were left over.
     const ControlService::Claim claim = ControlService::claimName();
     if (claim == ControlService::Claim::AlreadyRunning) {
-        console::line(QStringLiteral("QuivraMac is already running"));
+        qCInfo(lcConsole).nospace().noquote() << "QuivraMac is already running";
         return 0;
     }
     if (claim == ControlService::Claim::NoSessionBus)
-        console::line(
-            QStringLiteral("No session bus: QuivraMac cannot be controlled from the command line"));
+        qCInfo(lcConsole).nospace().noquote()
+            << "No session bus: QuivraMac cannot be controlled from the command line";
 
     std::unique_ptr<LatenessProbe> lateness;
     if (qEnvironmentVariableIntValue("QUIVRA_LATENESS_PROBE") == 1)
@@ -79,8 +80,8 @@ int main(int argc, char *argv[])
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
         tray = std::make_unique<TrayIcon>(&quivra, &windows);
     } else {
-        console::line(QStringLiteral(
-            "No system tray on this desktop: the QuivraMac panel opens as a window instead"));
+        qCInfo(lcConsole).nospace().noquote() << QStringLiteral(
+            "No system tray on this desktop: the QuivraMac panel opens as a window instead");
         windows.openPanelAsWindow();
     }
     if (!quivra.hasCompletedOnboarding())

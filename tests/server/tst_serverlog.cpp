@@ -1,9 +1,12 @@
+#include "platform/logging.h"
 #include "server/processids.h"
 #include "server/serverlog.h"
 #include "testsupport.h"
 
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QTextBoundaryFinder>
+#include <QThread>
 
 class TestServerLog : public QObject
 {
@@ -102,6 +105,48 @@ private Q_SLOTS:
                 QCOMPARE(log.text(), expected);
             }
         }
+    }
+
+    void linesGoWhereTheirCategorySays()
+    {
+        using logging::Entry;
+        QList<QPair<Entry, QString>> logged;
+        const auto previous = logging::setAppLog([&](Entry kind, const QString &text) {
+            logged.append({ kind, text });
+        });
+        const auto restore = qScopeGuard([previous] { logging::setAppLog(previous); });
+        testsupport::ConsoleCapture console;
+
+        // Exact text: a trailing space, a percent sign, a character outside the BMP.
+        const QString odd = QStringLiteral("100% \U0001F4F1 ");
+        qCInfo(lcConsole).nospace().noquote() << "console " << odd;
+        qCInfo(lcLog).nospace().noquote() << "log " << odd;
+        qCInfo(lcServerOutput).nospace().noquote() << "[etserver] " << odd;
+        QCOMPARE(console.lines(), QStringList({ "console " + odd, "[etserver] " + odd }));
+        QCOMPARE(logged,
+                 (QList<QPair<Entry, QString>> { { Entry::Message, "log " + odd },
+                                                 { Entry::ServerOutput, "[etserver] " + odd } }));
+
+        // The usual rules switch standard output off and leave the in-app log alone.
+        QLoggingCategory::setFilterRules(QStringLiteral("quivra.console=false"));
+        qCInfo(lcConsole) << "hidden";
+        qCInfo(lcServerOutput).nospace().noquote() << "[etserver] still logged";
+        QLoggingCategory::setFilterRules(QString());
+        QCOMPARE(console.lines().size(), 2);
+        QCOMPARE(logged.last().second, QStringLiteral("[etserver] still logged"));
+
+        // Lines from another thread reach the in-app log on the main thread.
+        logged.clear();
+        QThread *deliveredOn = nullptr;
+        logging::setAppLog([&](Entry, const QString &) { deliveredOn = QThread::currentThread(); });
+        std::unique_ptr<QThread> worker(QThread::create([] { qCInfo(lcLog) << "from a worker"; }));
+        worker->start();
+        QVERIFY(worker->wait(5000));
+        QTRY_COMPARE(deliveredOn, QThread::currentThread());
+
+        // What is not the app's own reaches the handler underneath, here the test runner's.
+        QTest::ignoreMessage(QtWarningMsg, "not ours");
+        qWarning("not ours");
     }
 
     void parsesProcessIds()

@@ -65,20 +65,22 @@ quint16 refusingTcpPort(QTcpSocket &holder)
     return holder.localPort();
 }
 
-void quietConsole()
+void routeLogging()
 {
+    logging::install();
     if (qEnvironmentVariableIsEmpty("QUIVRA_TEST_VERBOSE"))
-        console::setSink([](const QString &) {});
+        logging::setConsoleSink([](const QString &) {});
 }
 
 ConsoleCapture::ConsoleCapture()
 {
-    m_previous = console::setSink([lines = m_lines](const QString &line) { lines->append(line); });
+    m_previous =
+        logging::setConsoleSink([lines = m_lines](const QString &line) { lines->append(line); });
 }
 
 ConsoleCapture::~ConsoleCapture()
 {
-    console::setSink(m_previous);
+    logging::setConsoleSink(m_previous);
 }
 
 QStringList ConsoleCapture::lines() const

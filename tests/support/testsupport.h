@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "platform/processtable.h"
 #include "server/serverenvironment.h"
 
@@ -41,8 +41,10 @@ ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes);
 // A loopback port that refuses connections for as long as holder lives.
 quint16 refusingTcpPort(QTcpSocket &holder);
 
-// Console lines are dropped unless QUIVRA_TEST_VERBOSE is set; ConsoleCapture still sees them.
-void quietConsole();
+// The test runner puts its own message handler in place when a run starts; this puts the app's
+// handler over it, which passes on what is not the app's own. Console lines are dropped unless
+// QUIVRA_TEST_VERBOSE is set; ConsoleCapture still sees them.
+void routeLogging();
 
 // Collects console lines while it lives.
 class ConsoleCapture
@@ -53,7 +55,7 @@ public:
     QStringList lines() const;
 
 private:
-    console::Sink m_previous;
+    logging::ConsoleSink m_previous;
     std::shared_ptr<QStringList> m_lines = std::make_shared<QStringList>();
 };
 
@@ -64,9 +66,12 @@ private:
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \
         testsupport::isolateHome();                                                                \
-        testsupport::quietConsole();                                                               \
         QCoreApplication app(argc, argv);                                                          \
         TestObject test;                                                                           \
         QTEST_SET_MAIN_SOURCE_PATH                                                                 \
-        return QTest::qExec(&test, argc, argv);                                                    \
+        QTest::qInit(&test, argc, argv);                                                           \
+        testsupport::routeLogging();                                                               \
+        const int failed = QTest::qRun();                                                          \
+        QTest::qCleanup();                                                                         \
+        return failed;                                                                             \
     }

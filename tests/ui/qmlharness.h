@@ -87,9 +87,12 @@ void prepareQuick();
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \
         testsupport::isolateHome();                                                                \
-        testsupport::quietConsole();                                                               \
         testsupport::prepareQuick();                                                               \
         QApplication app(argc, argv);                                                              \
         TestObject test;                                                                           \
-        return QTest::qExec(&test, argc, argv);                                                    \
+        QTest::qInit(&test, argc, argv);                                                           \
+        testsupport::routeLogging();                                                               \
+        const int failed = QTest::qRun();                                                          \
+        QTest::qCleanup();                                                                         \
+        return failed;                                                                             \
     }

@@ -130,7 +130,7 @@ int onboardingShots(const QDir &out)
 int main(int argc, char *argv[])
 {
     testsupport::isolateHome();
-    testsupport::quietConsole();
+    testsupport::routeLogging();
     testsupport::prepareQuick();
     QApplication app(argc, argv);
     if (argc != 2) {

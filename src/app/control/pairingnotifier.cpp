@@ -1,6 +1,6 @@
 #include "control/pairingnotifier.h"
 
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "server/servermanager.h"
 
 #include <QDBusConnection>
@@ -36,7 +36,8 @@ void PairingNotifier::notify(const QString &device)
         watcher->deleteLater();
         if (!watcher->isError() || std::exchange(m_toldUnavailable, true))
             return;
-        console::line(QStringLiteral("No desktop notifications (%1): pairings are only logged")
-                          .arg(watcher->error().message()));
+        qCInfo(lcConsole).nospace().noquote()
+            << QStringLiteral("No desktop notifications (%1): pairings are only logged")
+                   .arg(watcher->error().message());
     });
 }

@@ -1,7 +1,7 @@
 #include "pairing/pairingconnection.h"
 
 #include "pairing/requestparsing.h"
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "platform/socketreset.h"
 
 #include <QStringDecoder>
@@ -83,7 +83,7 @@ bool PairingConnection::requestComplete() const
 
 void PairingConnection::receiveFailed(const QString &error)
 {
-    console::line(QStringLiteral("[PairingListener] Receive error: ") + error);
+    qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Receive error: " << error;
     close();
 }
 
@@ -97,12 +97,12 @@ void PairingConnection::finishReading()
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString request = decoder.decode(m_buffer);
     if (m_buffer.isEmpty() || decoder.hasError()) {
-        console::line(QStringLiteral("[PairingListener] No data received, cancelling"));
+        qCInfo(lcConsole).nospace().noquote() << "[PairingListener] No data received, cancelling";
         close();
         return;
     }
-    console::line(QStringLiteral("[PairingListener] Received request: ")
-                  + requestparsing::printable(request.left(100)) + QStringLiteral("..."));
+    qCInfo(lcConsole).nospace().noquote() << QStringLiteral("[PairingListener] Received request: ")
+            + requestparsing::printable(request.left(100)) + QStringLiteral("...");
     Q_EMIT requestReceived(request);
 }
 
@@ -136,7 +136,7 @@ void PairingConnection::close()
     m_reading = false;
     m_resetWatch.release();
     m_deadline.stop();
-    console::line(QStringLiteral("[PairingListener] Connection state: cancelled"));
+    qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Connection state: cancelled";
     Q_EMIT closed();
     // disconnectFromHost() writes what is pending first.
     connect(m_socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);

@@ -3,7 +3,7 @@
 #include "diagnostics/sshprobe.h"
 #include "net/hostlabel.h"
 #include "pairing/pairingconnection.h"
-#include "platform/console.h"
+#include "platform/logging.h"
 
 #include <QTcpSocket>
 
@@ -30,11 +30,11 @@ PairingListener::PairingListener(Setup setup, QObject *parent)
     });
     connect(&m_advertiser, &platform::DnsSdAdvertiser::registered, this,
             [this](const QString &name) {
-                console::line(QStringLiteral("PairingListener registered as: ") + name);
+                qCInfo(lcConsole).nospace().noquote() << "PairingListener registered as: " << name;
                 Q_EMIT advertised(name);
             });
     connect(&m_advertiser, &platform::DnsSdAdvertiser::failed, this, [](const QString &error) {
-        console::line(QStringLiteral("PairingListener advertisement failed: ") + error);
+        qCInfo(lcConsole).nospace().noquote() << "PairingListener advertisement failed: " << error;
     });
 }
 
@@ -54,7 +54,8 @@ void PairingListener::start(quint16 port, bool advertise)
     // QTcpServer sets SO_REUSEADDR, so a restart can bind at once after an earlier listener.
     if (!m_server.listen(QHostAddress::Any, port)
         && !m_server.listen(QHostAddress::AnyIPv4, port)) {
-        console::line(QStringLiteral("Failed to start PairingListener: ") + m_server.errorString());
+        qCInfo(lcConsole).nospace().noquote()
+            << "Failed to start PairingListener: " << m_server.errorString();
         return;
     }
     m_port = m_server.serverPort(); // the one the system chose when asked for 0
@@ -63,20 +64,22 @@ void PairingListener::start(quint16 port, bool advertise)
     if (advertise
         && !m_advertiser.advertise(name, QStringLiteral("_quivra-terminal._tcp"), m_port)) {
         advertising = false;
-        console::line(QStringLiteral("PairingListener not advertised (%1); phones must be given "
-                                     "this computer's address by hand")
-                          .arg(m_advertiser.errorString()));
+        qCInfo(lcConsole).nospace().noquote()
+            << QStringLiteral("PairingListener not advertised (%1); phones must be given "
+                              "this computer's address by hand")
+                   .arg(m_advertiser.errorString());
     }
-    console::line(QStringLiteral("PairingListener started on port %1").arg(m_port));
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("PairingListener started on port %1").arg(m_port);
     // Readiness is reported after the start line, as the listener's state changes arrive later.
     QMetaObject::invokeMethod(
         this,
         [this, name, advertising] {
             if (!m_server.isListening())
                 return;
-            console::line(QStringLiteral("PairingListener State: ready"));
+            qCInfo(lcConsole).nospace().noquote() << "PairingListener State: ready";
             if (advertising)
-                console::line(QStringLiteral("PairingListener advertising as: ") + name);
+                qCInfo(lcConsole).nospace().noquote() << "PairingListener advertising as: " << name;
         },
         Qt::QueuedConnection);
 }
@@ -93,7 +96,7 @@ void PairingListener::stop()
         if (connection->isReading())
             connection->close();
     }
-    console::line(QStringLiteral("PairingListener State: cancelled"));
+    qCInfo(lcConsole).nospace().noquote() << "PairingListener State: cancelled";
 }
 
 void PairingListener::acceptConnections()
@@ -101,9 +104,9 @@ void PairingListener::acceptConnections()
     while (QTcpSocket *socket = m_server.nextPendingConnection()) {
         auto *connection = new PairingConnection(socket, m_readDeadline);
         const QString address = connection->peerAddress();
-        console::line(QStringLiteral("[PairingListener] New connection from ")
-                      + connection->peer());
-        console::line(QStringLiteral("[PairingListener] Connection state: ready"));
+        qCInfo(lcConsole).nospace().noquote()
+            << QStringLiteral("[PairingListener] New connection from ") + connection->peer();
+        qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Connection state: ready";
         if (!makeRoomFor(address)) {
             connection->close();
             continue;

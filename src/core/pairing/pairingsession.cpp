@@ -1,6 +1,6 @@
 #include "pairing/pairingsession.h"
 
-#include "platform/console.h"
+#include "platform/logging.h"
 
 #include <QRandomGenerator>
 
@@ -78,7 +78,7 @@ void PairingSession::expireIfDue()
         return;
     setPairing(false);
     m_offByItself = true;
-    Q_EMIT message(QStringLiteral("[QuivraMac] Pairing mode disabled: the code expired"));
+    qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Pairing mode disabled: the code expired";
 }
 
 void PairingSession::recordFailedAttempt(const QString &address)
@@ -91,11 +91,13 @@ void PairingSession::recordFailedAttempt(const QString &address)
         return;
     setPairing(false);
     m_offByItself = true;
-    Q_EMIT message(QStringLiteral("[QuivraMac] Pairing mode disabled after %1 failed attempts")
-                       .arg(maxFailedAttempts));
-    console::line(QStringLiteral("Pairing mode disabled after %1 failed attempts from: %2")
-                      .arg(maxFailedAttempts)
-                      .arg(m_failedAddresses.join(QStringLiteral(", "))));
+    qCInfo(lcLog).nospace().noquote()
+        << QStringLiteral("[QuivraMac] Pairing mode disabled after %1 failed attempts")
+               .arg(maxFailedAttempts);
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("Pairing mode disabled after %1 failed attempts from: %2")
+               .arg(maxFailedAttempts)
+               .arg(m_failedAddresses.join(QStringLiteral(", ")));
 }
 
 // A code is good for one pairing, a few wrong guesses and a limited time.

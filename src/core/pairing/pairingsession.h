@@ -56,8 +56,6 @@ Q_SIGNALS:
     void isPairingChanged();
     void tokenChanged();
     void expiresAtChanged();
-    // A line for the in-app log.
-    void message(const QString &line);
 
 private:
     void setPairing(bool on);

@@ -4,7 +4,7 @@
 #include "pairing/pairinglistener.h"
 #include "pairing/publickey.h"
 #include "pairing/requestparsing.h"
-#include "platform/console.h"
+#include "platform/logging.h"
 
 namespace {
 const QString badRequest = QStringLiteral("400 Bad Request");
@@ -56,18 +56,18 @@ void PairingListener::handlePairRequest(const QString &requestLine, const QStrin
         return;
     }
     if (!session->acceptsPairing()) {
-        console::line(QStringLiteral("Pairing Denied: Pairing mode not active"));
+        qCInfo(lcConsole).nospace().noquote() << "Pairing Denied: Pairing mode not active";
         connection->sendResponse(forbidden, QStringLiteral("Pairing mode not active"));
         return;
     }
     if (requestparsing::comesFromWebPage(request, m_setup.diagnostics.hostLabel())) {
-        console::line(QStringLiteral("Pairing Denied: request from a web page"));
+        qCInfo(lcConsole).nospace().noquote() << "Pairing Denied: request from a web page";
         session->recordFailedAttempt(connection->peerAddress());
         connection->sendResponse(forbidden, QStringLiteral("Forbidden"));
         return;
     }
     if (!requestparsing::tokenMatches(requestLine, session->token())) {
-        console::line(QStringLiteral("Pairing Denied: Invalid Token"));
+        qCInfo(lcConsole).nospace().noquote() << "Pairing Denied: Invalid Token";
         session->recordFailedAttempt(connection->peerAddress());
         connection->sendResponse(QStringLiteral("401 Unauthorized"),
                                  QStringLiteral("Invalid Token"));
@@ -93,7 +93,7 @@ void PairingListener::handlePairRequest(const QString &requestLine, const QStrin
         connection->sendResponse(unavailable, serverNotReady);
         return;
     }
-    console::line(QStringLiteral("Pairing Success! Device: ") + deviceName);
+    qCInfo(lcConsole).nospace().noquote() << "Pairing Success! Device: " << deviceName;
     if (onPairingSuccess)
         onPairingSuccess({ key, deviceName, connection->peerAddress() });
     connection->sendResponse(QStringLiteral("200 OK"), QStringLiteral("Paired Successfully"));

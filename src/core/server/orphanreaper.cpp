@@ -1,6 +1,6 @@
 #include "server/orphanreaper.h"
 
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "server/processids.h"
 
 #include <QFile>
@@ -10,11 +10,10 @@
 #include <csignal>
 
 OrphanReaper::OrphanReaper(std::shared_ptr<platform::ProcessTable> processes, QString pgrepProgram,
-                           QString pidFile, Log log)
+                           QString pidFile)
     : m_processes(std::move(processes))
     , m_pgrep(std::move(pgrepProgram))
     , m_pidFile(std::move(pidFile))
-    , m_log(std::move(log))
 { }
 
 void OrphanReaper::cleanup()
@@ -23,8 +22,9 @@ void OrphanReaper::cleanup()
     if (QFile::exists(m_pidFile)) {
         if (const auto pid = processids::readPidFile(m_pidFile)) {
             if (m_processes->exists(*pid) && m_processes->isOwnServer(*pid)) {
-                m_log(QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)")
-                          .arg(*pid));
+                qCInfo(lcLog).nospace().noquote()
+                    << QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)")
+                           .arg(*pid);
                 kill(*pid);
                 found = true;
             }
@@ -33,25 +33,28 @@ void OrphanReaper::cleanup()
     }
     const QList<qint32> listed = find();
     for (const qint32 pid : listed) {
-        m_log(QStringLiteral("[QuivraMac] Found orphaned server (PID %1 via pgrep)").arg(pid));
+        qCInfo(lcLog).nospace().noquote()
+            << QStringLiteral("[QuivraMac] Found orphaned server (PID %1 via pgrep)").arg(pid);
         kill(pid);
     }
     if (found || !listed.isEmpty())
-        m_log(QStringLiteral("[QuivraMac] Cleaned up orphaned server(s)"));
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Cleaned up orphaned server(s)";
 }
 
 void OrphanReaper::kill(qint32 pid)
 {
     if (!m_processes->exists(pid) || !m_processes->isOwnServer(pid))
         return;
-    console::line(QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(pid));
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(pid);
     m_processes->signal(pid, SIGTERM);
     for (int wait = 0; wait < 10; ++wait) {
         QThread::usleep(100000);
         if (!m_processes->exists(pid))
             return;
     }
-    console::line(QStringLiteral("[QuivraMac] Force killing etserver PID %1").arg(pid));
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("[QuivraMac] Force killing etserver PID %1").arg(pid);
     m_processes->signal(pid, SIGKILL);
     QThread::usleep(100000);
 }

@@ -5,7 +5,6 @@
 #include <QList>
 #include <QString>
 
-#include <functional>
 #include <memory>
 
 // Servers left running by an earlier instance (a crash, a forced quit) are found through the pid
@@ -13,10 +12,8 @@
 class OrphanReaper
 {
 public:
-    using Log = std::function<void(const QString &line)>;
-
     OrphanReaper(std::shared_ptr<platform::ProcessTable> processes, QString pgrepProgram,
-                 QString pidFile, Log log);
+                 QString pidFile);
 
     // Both searches, each found server stopped, and the pid file removed.
     void cleanup();
@@ -31,5 +28,4 @@ private:
     std::shared_ptr<platform::ProcessTable> m_processes;
     QString m_pgrep;
     QString m_pidFile;
-    Log m_log;
 };

@@ -1,6 +1,6 @@
 #include "server/servermanager.h"
 
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "platform/userdefaults.h"
 #include "server/serverlog.h"
 
@@ -15,12 +15,13 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_env(std::move(environment))
     , m_process(m_env.uptimeInterval)
-    , m_orphans(m_env.processes, m_env.pgrepProgram, pidFilePath(),
-                [this](const QString &line) { log(line); })
+    , m_orphans(m_env.processes, m_env.pgrepProgram, pidFilePath())
     , m_pairing(m_env.now)
-    , m_keys([this](const QString &line) { log(line); })
     , m_devices(supportDirectory())
 {
+    // This manager's log is the app's: lines logged in the log categories end up here.
+    m_previousAppLog = logging::setAppLog(
+        [this](logging::Entry kind, const QString &text) { appendToLog(kind, text); });
     connect(&m_devices, &DeviceRegistry::devicesChanged, this, &ServerManager::devicesChanged);
     connect(&m_process, &ServerProcess::runningChanged, this, &ServerManager::isRunningChanged);
     connect(&m_process, &ServerProcess::uptimeChanged, this, &ServerManager::uptimeChanged);
@@ -30,7 +31,6 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     connect(&m_pairing, &PairingSession::tokenChanged, this, &ServerManager::pairingTokenChanged);
     connect(&m_pairing, &PairingSession::expiresAtChanged, this,
             &ServerManager::pairingExpiresAtChanged);
-    connect(&m_pairing, &PairingSession::message, this, &ServerManager::log);
 
     setLocalIP(m_env.localIP());
     userdefaults::registerDefaults({ { QStringLiteral("autoStartServer"), true } });
@@ -41,7 +41,10 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
         startServer();
 }
 
-ServerManager::~ServerManager() = default;
+ServerManager::~ServerManager()
+{
+    logging::setAppLog(std::move(m_previousAppLog));
+}
 
 QString ServerManager::etserverURL() const
 {
@@ -78,8 +81,9 @@ void ServerManager::startServer()
 {
     const QString executable = etserverURL();
     if (executable.isEmpty()) {
-        console::line(QStringLiteral("Error: etserver not found in bundle"));
-        log(QStringLiteral("[QuivraMac] Error: etserver binary not found in app bundle"));
+        qCInfo(lcConsole).nospace().noquote() << "Error: etserver not found in bundle";
+        qCInfo(lcLog).nospace().noquote()
+            << "[QuivraMac] Error: etserver binary not found in app bundle";
         setFailure({ ServerFailure::NotInstalled });
         return;
     }
@@ -88,17 +92,19 @@ void ServerManager::startServer()
 
     const QString support = supportDirectory();
     const QString fifo = QStringLiteral("%1 (%2 chars)").arg(serverFifo).arg(serverFifo.size());
-    console::line(QStringLiteral("App support directory: ") + support);
-    console::line(QStringLiteral("FIFO path: ") + fifo);
-    log(QStringLiteral("[QuivraMac] Support dir: ") + support);
-    log(QStringLiteral("[QuivraMac] FIFO path: ") + fifo);
-    console::line(QStringLiteral("Starting Quivra Server from %1...").arg(executable));
-    log(QStringLiteral("[QuivraMac] Starting server on port %1...").arg(m_port));
+    qCInfo(lcConsole).nospace().noquote() << "App support directory: " << support;
+    qCInfo(lcConsole).nospace().noquote() << "FIFO path: " << fifo;
+    qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Support dir: " << support;
+    qCInfo(lcLog).nospace().noquote() << "[QuivraMac] FIFO path: " << fifo;
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("Starting Quivra Server from %1...").arg(executable);
+    qCInfo(lcLog).nospace().noquote()
+        << QStringLiteral("[QuivraMac] Starting server on port %1...").arg(m_port);
 
     m_portTaken = false;
     if (const auto error = m_process.launch(executable, serverArguments())) {
-        console::line(QStringLiteral("Failed to launch server: ") + *error);
-        log(QStringLiteral("[QuivraMac] Failed to start: ") + *error);
+        qCInfo(lcConsole).nospace().noquote() << "Failed to launch server: " << *error;
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Failed to start: " << *error;
         setFailure({ ServerFailure::LaunchFailed, -1, *error });
         return;
     }
@@ -110,22 +116,25 @@ void ServerManager::stopServer()
 {
     if (!m_process.process())
         return;
-    console::line(QStringLiteral("Stopping Quivra Server (PID %1)...").arg(m_process.pid()));
-    log(QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(m_process.pid()));
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("Stopping Quivra Server (PID %1)...").arg(m_process.pid());
+    qCInfo(lcLog).nospace().noquote()
+        << QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(m_process.pid());
     stopPairingListener();
     // Returns as soon as the child exits; 20 steps of 100 ms at the most.
     m_process.stop(std::chrono::milliseconds(2000), [this] {
-        log(QStringLiteral("[QuivraMac] Force killing server (didn't exit gracefully)"));
+        qCInfo(lcLog).nospace().noquote()
+            << "[QuivraMac] Force killing server (didn't exit gracefully)";
     });
     QFile::remove(pidFilePath());
     setFailure({});
-    log(QStringLiteral("[QuivraMac] Server stopped"));
+    qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Server stopped";
 }
 
 void ServerManager::stopServerForQuit()
 {
     if (m_process.isRunning()) {
-        log(QStringLiteral("[QuivraMac] Stopping server for app quit..."));
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Stopping server for app quit...";
         m_process.stop(std::chrono::milliseconds(1000));
     }
     m_orphans.stopFromPidFile();
@@ -137,7 +146,8 @@ void ServerManager::onServerExited(int code, bool current)
         stopPairingListener();
         setFailure({ m_portTaken ? ServerFailure::PortInUse : ServerFailure::Exited, code });
     }
-    log(QStringLiteral("[QuivraMac] Server exited with code %1").arg(code));
+    qCInfo(lcLog).nospace().noquote()
+        << QStringLiteral("[QuivraMac] Server exited with code %1").arg(code);
 }
 
 void ServerManager::appendServerOutput(const QByteArray &chunk)
@@ -148,14 +158,15 @@ void ServerManager::appendServerOutput(const QByteArray &chunk)
     // Read as it arrives, so that the reason does not depend on what the log still holds.
     if (chunk.contains("Address already in use") || chunk.contains("EADDRINUSE"))
         m_portTaken = true;
-    console::line(*entry);
-    m_log.appendOutput(*entry);
-    Q_EMIT logsChanged();
+    qCInfo(lcServerOutput).nospace().noquote() << *entry;
 }
 
-void ServerManager::log(const QString &message)
+void ServerManager::appendToLog(logging::Entry kind, const QString &text)
 {
-    m_log.appendMessage(message);
+    if (kind == logging::Entry::ServerOutput)
+        m_log.appendOutput(text);
+    else
+        m_log.appendMessage(text);
     Q_EMIT logsChanged();
 }
 

@@ -3,6 +3,7 @@
 #include "devices/deviceregistry.h"
 #include "pairing/pairinglistener.h"
 #include "pairing/pairingsession.h"
+#include "platform/logging.h"
 #include "server/keyinstaller.h"
 #include "server/orphanreaper.h"
 #include "server/serverenvironment.h"
@@ -102,7 +103,7 @@ Q_SIGNALS:
     void devicesChanged();
 
 private:
-    void log(const QString &message);
+    void appendToLog(logging::Entry kind, const QString &text);
     void appendServerOutput(const QByteArray &chunk);
     void onServerExited(int code, bool current);
     void setLocalIP(const QString &address);
@@ -113,6 +114,7 @@ private:
     int m_port = 2022;
     QString m_localIP = QStringLiteral("127.0.0.1");
     ServerLog m_log;
+    logging::AppLog m_previousAppLog;
     QString m_lastPairedDevice;
     ServerFailure m_failure;
     // The child said it could not bind its port since it was launched.

@@ -1,5 +1,5 @@
 // The pairing side of ServerManager: the user's switch and the listener's lifetime.
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "server/servermanager.h"
 
 #include <QDateTime>
@@ -8,13 +8,15 @@ void ServerManager::togglePairingMode()
 {
     if (m_pairing.isPairing()) {
         m_pairing.switchOff();
-        log(QStringLiteral("[QuivraMac] Pairing mode disabled"));
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Pairing mode disabled";
         return;
     }
     m_pairing.switchOn([this] { setLocalIP(m_env.localIP()); });
-    console::line(
-        QStringLiteral("Pairing Mode Active. IP: %1, Token: %2").arg(m_localIP, m_pairing.token()));
-    log(QStringLiteral("[QuivraMac] Pairing mode enabled. Token: ") + m_pairing.token());
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("Pairing Mode Active. IP: %1, Token: %2")
+               .arg(m_localIP, m_pairing.token());
+    qCInfo(lcLog).nospace().noquote()
+        << "[QuivraMac] Pairing mode enabled. Token: " << m_pairing.token();
 }
 
 void ServerManager::startPairingListener()
@@ -37,13 +39,13 @@ void ServerManager::startPairingListener()
     m_pairingListener->onPairingSuccess = [this](const PairingResult &result) {
         setLastPairedDevice(result.deviceName);
         m_pairing.switchOff();
-        log(QStringLiteral("[QuivraMac] Paired with ") + result.deviceName);
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Paired with " << result.deviceName;
         if (const auto error = m_devices.record(result.deviceName, result.publicKey, result.address,
                                                 QDateTime::currentDateTimeUtc()))
-            log(QStringLiteral("[QuivraMac] Paired device not listed: ") + *error);
+            qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Paired device not listed: " << *error;
     };
     m_pairingListener->start(m_env.pairingPort, m_env.advertise);
-    log(QStringLiteral("[QuivraMac] Bonjour listener started (iOS can discover)"));
+    qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Bonjour listener started (iOS can discover)";
 }
 
 void ServerManager::stopPairingListener()

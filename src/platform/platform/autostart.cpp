@@ -1,6 +1,6 @@
 #include "platform/autostart.h"
 
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "platform/userdefaults.h"
 
 namespace platform {
@@ -11,7 +11,7 @@ void applyLaunchAtLoginPreference()
     userdefaults::registerDefaults({ { key, true } });
     QString error;
     if (!setLaunchAtLogin(userdefaults::boolValue(key), &error))
-        console::line(QStringLiteral("Launch at login not changed: ") + error);
+        qCInfo(lcConsole).nospace().noquote() << "Launch at login not changed: " << error;
 }
 
 } // namespace platform

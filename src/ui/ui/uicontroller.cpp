@@ -1,7 +1,7 @@
 #include "ui/uicontroller.h"
 
 #include "platform/autostart.h"
-#include "platform/console.h"
+#include "platform/logging.h"
 #include "platform/systeminfo.h"
 #include "platform/userdefaults.h"
 #include "server/servermanager.h"

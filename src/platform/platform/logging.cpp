@@ -1,0 +1,122 @@
+#include "platform/logging.h"
+
+#include <QCoreApplication>
+#include <QMutex>
+#include <QThread>
+
+#include <cstdio>
+#include <cstring>
+
+Q_LOGGING_CATEGORY(lcConsole, "quivra.console", QtInfoMsg)
+Q_LOGGING_CATEGORY(lcLog, "quivra.log", QtInfoMsg)
+Q_LOGGING_CATEGORY(lcServerOutput, "quivra.server", QtInfoMsg)
+
+namespace logging {
+namespace {
+
+QMutex mutex;
+QtMessageHandler previousHandler = nullptr;
+AppLog appLog;
+ConsoleSink consoleSink;
+thread_local bool handling = false;
+
+void writeToStdout(const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+    std::fputc('\n', stdout);
+    // Flushed per line so that a supervisor or a pipe sees each line as it happens.
+    std::fflush(stdout);
+}
+
+void toConsole(const QString &text)
+{
+    QMutexLocker lock(&mutex);
+    if (consoleSink)
+        consoleSink(text);
+    else
+        writeToStdout(text);
+}
+
+void toAppLog(Entry kind, const QString &text)
+{
+    auto *app = QCoreApplication::instance();
+    if (app && QThread::currentThread() != app->thread()) {
+        QMetaObject::invokeMethod(
+            app, [kind, text] { toAppLog(kind, text); }, Qt::QueuedConnection);
+        return;
+    }
+    AppLog log;
+    {
+        QMutexLocker lock(&mutex);
+        log = appLog;
+    }
+    if (log)
+        log(kind, text);
+}
+
+bool isCategory(const QMessageLogContext &context, const QLoggingCategory &category)
+{
+    return context.category && std::strcmp(context.category, category.categoryName()) == 0;
+}
+
+void passOn(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    QtMessageHandler next;
+    {
+        QMutexLocker lock(&mutex);
+        next = previousHandler;
+    }
+    // A handler that hands back to whatever it replaced would come round to this one again.
+    if (next && !handling) {
+        handling = true;
+        next(type, context, text);
+        handling = false;
+        return;
+    }
+    const QByteArray line = qFormatLogMessage(type, context, text).toLocal8Bit();
+    std::fprintf(stderr, "%s\n", line.constData());
+}
+
+void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (isCategory(context, lcConsole())) {
+        toConsole(text);
+    } else if (isCategory(context, lcLog())) {
+        toAppLog(Entry::Message, text);
+    } else if (isCategory(context, lcServerOutput())) {
+        // Standard output follows its own category's rules for every line written there.
+        if (lcConsole().isInfoEnabled())
+            toConsole(text);
+        toAppLog(Entry::ServerOutput, text);
+    } else {
+        passOn(type, context, text);
+    }
+}
+
+} // namespace
+
+void install()
+{
+    const QtMessageHandler current = qInstallMessageHandler(handle);
+    if (current == handle)
+        return;
+    QMutexLocker lock(&mutex);
+    previousHandler = current;
+}
+
+AppLog setAppLog(AppLog log)
+{
+    install();
+    QMutexLocker lock(&mutex);
+    return std::exchange(appLog, std::move(log));
+}
+
+ConsoleSink setConsoleSink(ConsoleSink sink)
+{
+    install();
+    QMutexLocker lock(&mutex);
+    return std::exchange(consoleSink, std::move(sink));
+}
+
+} // namespace logging
