@@ -113,9 +113,9 @@ int QmlHarness::runScheduled()
     return ran;
 }
 
-QImage QmlHarness::grab()
+QImage QmlHarness::grab(int shorterBy)
 {
-    m_view->setSize(QSizeF(m_view->implicitWidth(), m_view->implicitHeight()));
+    m_view->setSize(QSizeF(m_view->implicitWidth(), m_view->implicitHeight() - shorterBy));
     m_window->resize(m_view->size().toSize());
     return m_window->grabWindow();
 }

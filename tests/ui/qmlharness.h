@@ -46,7 +46,8 @@ public:
     // Moves the clock the pairing code's lifetime is measured with. Countdowns made by the
     // harness tick only when a test calls tick().
     void advanceClock(std::chrono::seconds by) { *m_offset += by; }
-    QImage grab();
+    // The view at its implicit size, or that much shorter.
+    QImage grab(int shorterBy = 0);
     QQuickWindow *window() const { return m_window.get(); }
     QQuickItem *view() const { return m_view; }
     void setDark(bool dark);

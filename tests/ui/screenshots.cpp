@@ -1,5 +1,7 @@
 // Renders every screen and state of the panel, the settings window and the setup window to PNG
-// files, light and dark, and checks that each file was written at the size expected.
+// files, light and dark, checks that each file was written at the size expected, and checks each
+// layout as a person would see it. Any fault fails the run, naming the screen, state and item.
+#include "layoutcheck.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
 #include "qmlharness.h"
@@ -35,24 +37,34 @@ void setRunning(QmlHarness &h, bool running)
         running ? h.manager().startServer() : h.manager().stopServer();
 }
 
-bool save(const QImage &image, const QString &file, QSize expected)
+// Waits for transitions, springs and sliding knobs to finish, then grabs the view; a picture
+// taken mid-animation would be checked as it never stays.
+QImage settledGrab(QmlHarness &h)
 {
-    if (image.size() != expected || !image.save(file) || QFileInfo(file).size() == 0) {
-        qCritical("%s: not written at %dx%d (%dx%d)", qPrintable(file), expected.width(),
-                  expected.height(), image.width(), image.height());
-        return false;
-    }
-    qInfo("%s %dx%d", qPrintable(file), image.width(), image.height());
-    return true;
+    h.grab();
+    if (!QTest::qWaitFor([&h] { return layoutcheck::settled(h.window()); }, 5000))
+        qWarning("an animation did not finish");
+    return h.grab();
 }
 
-// Lets the step transition and the springs finish: these are pictures, not tests.
-void settle(QmlHarness &h)
+// Writes the picture and reports what is wrong with it; the number of faults found.
+int saveAndCheck(QmlHarness &h, const QString &file, QSize expected)
 {
-    QObject *stack = h.find<QObject>("onboardingStack");
-    if (!QTest::qWaitFor([stack] { return !stack->property("busy").toBool(); }, 3000))
-        qWarning("the step transition did not finish");
-    QTest::qWait(600);
+    const QImage image = settledGrab(h);
+    int faults = 0;
+    const bool sizeOk = image.width() == expected.width()
+        && (expected.height() == 0 ? image.height() > 100 : image.height() == expected.height());
+    if (!sizeOk || !image.save(file) || QFileInfo(file).size() == 0) {
+        qCritical("%s: not written at the expected size (%dx%d)", qPrintable(file), image.width(),
+                  image.height());
+        ++faults;
+    }
+    const QStringList layout = layoutcheck::faults(h.window());
+    for (const QString &fault : layout)
+        qCritical("%s: %s", qPrintable(QFileInfo(file).baseName()), qPrintable(fault));
+    if (faults == 0 && layout.isEmpty())
+        qInfo("%s %dx%d", qPrintable(file), image.width(), image.height());
+    return faults + int(layout.size());
 }
 
 void runChecksUntil(QmlHarness &h, const std::function<bool()> &done)
@@ -116,13 +128,27 @@ int onboardingShots(const QDir &out)
         };
         for (const auto &[name, prepare] : shots) {
             prepare();
-            settle(h);
-            if (!save(h.grab(), out.filePath(name + (dark ? "-dark" : "-light") + ".png"),
-                      { 600, 500 }))
-                ++failures;
+            failures += saveAndCheck(h, out.filePath(name + (dark ? "-dark" : "-light") + ".png"),
+                                     { 600, 500 });
         }
     }
     return failures;
+}
+
+// The check itself must fail a window too short for its content: the panel, 60 px shorter.
+int checkCatchesAShortWindow()
+{
+    QmlHarness h;
+    h.show("MenuBarView");
+    settledGrab(h);
+    h.grab(60);
+    const QStringList faults = layoutcheck::faults(h.window());
+    if (faults.isEmpty()) {
+        qCritical("the layout check passed a panel 60 px too short");
+        return 1;
+    }
+    qInfo("a panel 60 px too short fails as it should: %s", qPrintable(faults.first()));
+    return 0;
 }
 
 } // namespace
@@ -201,21 +227,12 @@ int main(int argc, char *argv[])
                 harness.show(shot.view);
             shownView = shot.view;
             shot.prepare(harness);
-            QCoreApplication::processEvents();
-            const QImage image = harness.grab();
-            const QString file = out.filePath(shot.name + (dark ? "-dark" : "-light") + ".png");
-            const bool sizeOk = image.width() == shot.expected.width()
-                && (shot.expected.height() == 0 ? image.height() > 100
-                                                : image.height() == shot.expected.height());
-            if (!image.save(file) || QFileInfo(file).size() == 0 || !sizeOk) {
-                qCritical("%s: not written at the expected size (%dx%d)", qPrintable(file),
-                          image.width(), image.height());
-                ++failures;
-            } else {
-                qInfo("%s %dx%d", qPrintable(file), image.width(), image.height());
-            }
+            failures += saveAndCheck(harness,
+                                     out.filePath(shot.name + (dark ? "-dark" : "-light") + ".png"),
+                                     shot.expected);
         }
     }
     failures += onboardingShots(out);
+    failures += checkCatchesAShortWindow();
     return failures == 0 ? 0 : 1;
 }

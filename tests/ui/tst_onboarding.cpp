@@ -130,9 +130,14 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         press(Qt::Key_Return);
         QCOMPARE(h().onboarding().step(), Flow::SystemCheck);
+        // Escape is "Back" on the explanation screen only: nowhere else is it a cancel action.
+        press(Qt::Key_Escape);
+        QCOMPARE(h().onboarding().step(), Flow::SystemCheck);
         runChecks(h().systemCheck());
         QVERIFY(h().systemCheck().allPassed());
         press(Qt::Key_Return);
+        QCOMPARE(h().onboarding().step(), Flow::Pairing);
+        press(Qt::Key_Escape);
         QCOMPARE(h().onboarding().step(), Flow::Pairing);
 
         const QByteArray key = testsupport::ed25519Key();
@@ -145,6 +150,13 @@ private Q_SLOTS:
         QCOMPARE(h().onboarding().step(), Flow::Success);
         press(Qt::Key_Return);
         QVERIFY(h().app().hasCompletedOnboarding());
+
+        // Showing the window again puts the first screen up at once, with no transition.
+        QObject *stack = h().find<QObject>("onboardingStack");
+        QTRY_VERIFY(!stack->property("busy").toBool());
+        QMetaObject::invokeMethod(h().view(), "restart");
+        QCOMPARE(h().onboarding().step(), Flow::Welcome);
+        QVERIFY(!stack->property("busy").toBool());
     }
 
     void systemCheckPassesAfterItsPauses()

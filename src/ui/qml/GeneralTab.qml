@@ -43,6 +43,7 @@ ScrollView {
                 Item { Layout.fillWidth: true }
                 Switch {
                     objectName: "autoStartSwitch"
+                    palette.window: Theme.knob
                     Accessible.name: "Start server automatically"
                     checked: Ui.autoStartServer
                     onToggled: Ui.autoStartServer = checked

@@ -35,6 +35,7 @@ RowLayout {
     Item { Layout.fillWidth: true }
     Switch {
         objectName: "serverSwitch"
+        palette.window: Theme.knob
         Accessible.name: "Server"
         checked: header.isRunning
         scale: 0.8

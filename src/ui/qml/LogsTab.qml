@@ -44,6 +44,8 @@ ColumnLayout {
         Layout.bottomMargin: 16
         radius: 6
         color: Theme.textBackground
+        border.width: 1
+        border.color: Theme.separator
         clip: true
         Flickable {
             id: scroller
@@ -51,7 +53,7 @@ ColumnLayout {
             anchors.fill: parent
             contentWidth: width
             contentHeight: logsEnd.implicitHeight
-            ScrollBar.vertical: ScrollBar { policy: ScrollBar.AlwaysOn }
+            ScrollBar.vertical: ScrollBar { policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
             TextEdit {
                 id: logsEnd
                 objectName: "logsEnd"

@@ -3,11 +3,10 @@ import QtQuick.Layouts
 import QuivraMac.Ui
 
 // The panel under the menu-bar item: server status and switch, pairing, windows, quit.
-Rectangle {
+ThemedSurface {
     id: panel
     implicitWidth: 280
     implicitHeight: column.implicitHeight + 24
-    color: Theme.background
 
     ColumnLayout {
         id: column

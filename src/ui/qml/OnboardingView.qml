@@ -35,9 +35,19 @@ Rectangle {
             }
         }
     }
+    // Each showing of the window starts again at the first screen, at once.
+    function restart() {
+        resetting = true
+        Onboarding.appear()
+        resetting = false
+    }
+    property bool resetting: false
     Connections {
         target: Onboarding
         // Keyed on every step set, so a new code also brings a fresh screen.
-        function onStepChanged() { stack.replace(null, view.screens[Onboarding.step]) }
+        function onStepChanged() {
+            stack.replace(null, view.screens[Onboarding.step],
+                          view.resetting ? StackView.Immediate : StackView.Transition)
+        }
     }
 }

@@ -57,11 +57,6 @@ Item {
                  && step.Window.window !== null && step.Window.window.visible
         onExpired: step.retry()
     }
-    Shortcut {
-        sequence: "Escape"
-        enabled: step.visible
-        onActivated: step.backClicked()
-    }
 
     ColumnLayout {
         anchors.centerIn: parent
@@ -153,11 +148,19 @@ Item {
 
     Column {
         anchors.centerIn: parent
+        width: parent.width - 96
         visible: Onboarding.pairingKind === Onboarding.Error
         spacing: 14
         SymbolImage { anchors.horizontalCenter: parent.horizontalCenter; name: "xmark.circle.fill"; size: 64; color: Theme.red }
         Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorMessage; font.pixelSize: 15; color: Theme.textSecondary }
+        Text {
+            width: parent.width
+            text: Onboarding.errorMessage
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
+            font.pixelSize: 15
+            color: Theme.textSecondary
+        }
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12

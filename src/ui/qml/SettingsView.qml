@@ -4,12 +4,11 @@ import QtQuick.Controls
 import QtQuick.Layouts
 
 // Two tabs, General and Logs; a new window always starts on General.
-Rectangle {
+ThemedSurface {
     id: view
     property alias selectedTab: tabs.currentIndex
     implicitWidth: 500
     implicitHeight: 400
-    color: Theme.background
 
     ColumnLayout {
         anchors.fill: parent

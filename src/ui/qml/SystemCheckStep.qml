@@ -9,6 +9,16 @@ Item {
     signal allPassedContinue()
     signal backClicked()
 
+    // A status mark that scales and fades in and out as the row's state changes.
+    component Mark: Item {
+        property bool shown
+        anchors.fill: parent
+        opacity: shown ? 1 : 0
+        scale: shown ? 1 : 0.5
+        visible: opacity > 0
+        Behavior on opacity { NumberAnimation { duration: 250; easing.type: Easing.OutCubic } }
+        Behavior on scale { NumberAnimation { duration: 250; easing.type: Easing.OutBack } }
+    }
     component CheckRow: Row {
         id: row
         property var item
@@ -16,44 +26,48 @@ Item {
         Item {
             width: 24
             height: 24
-            Rectangle {
-                anchors.fill: parent
-                anchors.margins: 2
-                visible: row.item.state === SystemCheck.Pending
-                radius: width / 2
-                color: "transparent"
-                border.width: 2
-                border.color: Theme.withAlpha(Theme.textSecondary, 0.3)
+            Mark {
+                shown: row.item.state === SystemCheck.Pending
+                Rectangle {
+                    anchors.fill: parent
+                    anchors.margins: 2
+                    radius: width / 2
+                    color: "transparent"
+                    border.width: 2
+                    border.color: Theme.withAlpha(Theme.textSecondary, 0.3)
+                }
             }
-            BusyIndicator {
-                anchors.centerIn: parent
-                width: 20
-                height: 20
-                visible: running
-                running: row.item.state === SystemCheck.Checking
+            Mark {
+                shown: row.item.state === SystemCheck.Checking
+                BusyIndicator {
+                    anchors.centerIn: parent
+                    width: 20
+                    height: 20
+                    padding: 0
+                    running: parent.shown
+                }
             }
-            SymbolImage {
-                anchors.fill: parent
-                visible: row.item.state === SystemCheck.Passed || row.item.state === SystemCheck.Failed
-                name: row.item.state === SystemCheck.Passed ? "checkmark.circle.fill" : "xmark.circle.fill"
-                size: 24
-                color: row.item.state === SystemCheck.Passed ? Theme.green : Theme.red
-                Behavior on opacity { NumberAnimation { duration: 200 } }
+            Mark {
+                shown: row.item.state === SystemCheck.Passed
+                SymbolImage { anchors.fill: parent; name: "checkmark.circle.fill"; size: 24; color: Theme.green }
+            }
+            Mark {
+                shown: row.item.state === SystemCheck.Failed
+                SymbolImage { anchors.fill: parent; name: "xmark.circle.fill"; size: 24; color: Theme.red }
             }
         }
         Column {
             Text { text: row.item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
-            Text {
-                visible: row.item.state === SystemCheck.Passed
-                text: row.item.successMessage
-                font.pixelSize: 13
-                color: Theme.textSecondary
+            MovesIn {
+                shown: row.item.state === SystemCheck.Passed
+                Text { text: row.item.successMessage; font.pixelSize: 13; color: Theme.textSecondary }
             }
         }
     }
     component FailedCheckCard: Rectangle {
         id: card
         signal retry()
+        property alias retryButton: retryButton
         implicitWidth: 500
         implicitHeight: cardContent.implicitHeight + 40
         radius: 16
@@ -77,6 +91,7 @@ Item {
             }
             AskClaudeCard { width: parent.width; prompt: SystemCheck.failedPrompt }
             AbstractButton {
+                id: retryButton
                 text: "Try Again"
                 Accessible.name: text
                 onClicked: card.retry()
@@ -95,17 +110,26 @@ Item {
         enabled: step.visible && SystemCheck.allPassed
         onActivated: step.allPassedContinue()
     }
-    Shortcut {
-        sequence: "Escape"
-        enabled: step.visible
-        onActivated: step.backClicked()
-    }
 
+    // Everything above the bottom button; a failure card that does not fit scrolls, with its
+    // "Try Again" brought into view as it appears.
     Flickable {
+        id: scroller
+        objectName: "checkScroller"
         anchors.fill: parent
-        anchors.bottomMargin: 72
+        anchors.bottomMargin: 80
         contentHeight: column.implicitHeight + 48
         clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: ScrollBar { policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+        NumberAnimation {
+            id: revealRetry
+            target: scroller
+            property: "contentY"
+            to: Math.max(0, scroller.contentHeight - scroller.height)
+            duration: 300
+            easing.type: Easing.InOutQuad
+        }
         ColumnLayout {
             id: column
             width: parent.width
@@ -128,10 +152,12 @@ Item {
                     delegate: CheckRow { required property var modelData; item: modelData }
                 }
             }
-            FailedCheckCard {
+            MovesIn {
                 Layout.alignment: Qt.AlignHCenter
-                visible: SystemCheck.failedIndex >= 0
-                onRetry: SystemCheck.start()
+                Layout.preferredWidth: Math.min(500, step.width - 48)
+                shown: SystemCheck.failedIndex >= 0
+                onArrived: revealRetry.restart()
+                FailedCheckCard { width: parent.width; onRetry: SystemCheck.start() }
             }
         }
     }

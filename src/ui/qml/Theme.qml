@@ -22,6 +22,10 @@ QtObject {
     readonly property color controlBackground: dark ? "#3a3a3c" : "#e9e9ed"
     readonly property color textBackground: dark ? "#1c1c1e" : "#ffffff"
     readonly property color separator: dark ? "#3d3d40" : "#dcdce0"
+    readonly property color controlPressed: dark ? "#48484a" : "#d8d8dc"
+    readonly property color controlBorder: dark ? "#636366" : "#b8b8bd"
+    // A switch's knob stays light on both schemes, as the desktop's own switches do.
+    readonly property color knob: "#ffffff"
 
     readonly property string monospace: "monospace"
 
