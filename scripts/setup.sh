@@ -7,16 +7,18 @@ cd "$(dirname "$0")/.."
 packages=(
     # build
     cmake ninja-build g++ pkgconf qt6-base-dev qt6-base-dev-tools libgl-dev
-    libavahi-compat-libdnssd-dev qt6-declarative-dev qt6-svg-dev
+    libavahi-compat-libdnssd-dev qt6-declarative-dev qt6-svg-dev libxcb1-dev
     # the checks the test command makes: formatting and the views' lint
     clang-format qt6-declarative-dev-tools
     # the windows' QML modules
     qml6-module-qtqml qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
     qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtqml-workerscript
-    # run: pgrep, DNS-SD daemon and its bus
-    procps avahi-daemon dbus dbus-bin
+    # run: pgrep, DNS-SD daemon and its bus, Qt's Wayland platform
+    procps avahi-daemon dbus dbus-bin qt6-wayland
     # tests: real SSH server and client, service browser, network namespaces, HTTP client
     avahi-utils openssh-server openssh-client iproute2 util-linux curl xvfb xauth
+    # tests of the desktop: a headless Wayland compositor, an X11 tray, X11 windows from outside
+    weston trayer xdotool
 )
 
 missing=()

@@ -16,6 +16,11 @@ inline QString symbolic()
 {
     return QStringLiteral(":/QuivraMac/Icons/quivramac-symbolic.svg");
 }
+// The tray's question mark before the first run is complete, in the same grey.
+inline QString setupSymbolic()
+{
+    return QStringLiteral(":/QuivraMac/Icons/quivramac-setup-symbolic.svg");
+}
 // For panels that draw icons as they are: a mid-light tone that reads on light and dark panels.
 inline QString tray()
 {

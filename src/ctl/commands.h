@@ -17,5 +17,7 @@ int logs(ControlClient &client, bool follow);
 int devices(ControlClient &client, bool json);
 // Asks before revoking unless `yes`; a phone revoked can no longer log in.
 int revoke(ControlClient &client, const QString &nameOrFingerprint, bool yes);
+// The app's panel on the screen, or its first-run window while that is open.
+int open();
 
 } // namespace commands

@@ -21,6 +21,7 @@ constexpr Command commandList[] = {
     { "logs", "Print the app's log." },
     { "devices", "List the phones that can log in to this computer." },
     { "revoke", "Take a phone's key away, by its name or fingerprint." },
+    { "open", "Show the app's panel (its setup window while that is open)." },
 };
 
 QString overview()
@@ -105,6 +106,8 @@ int main(int argc, char *argv[])
         return commands::pair(client);
     if (name == QLatin1String("devices"))
         return commands::devices(client, parser.isSet(json));
+    if (name == QLatin1String("open"))
+        return commands::open();
     if (name == QLatin1String("revoke"))
         return commands::revoke(client, parser.positionalArguments().constFirst(),
                                 parser.isSet(yes));

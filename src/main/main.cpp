@@ -1,6 +1,8 @@
 #include "app/quivramacapp.h"
 #include "control/controlservice.h"
 #include "control/pairingnotifier.h"
+#include "control/windowservice.h"
+#include "displayplatform.h"
 #include "latenessprobe.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
@@ -14,19 +16,12 @@
 #include <QIcon>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QSystemTrayIcon>
 
 int main(int argc, char *argv[])
 {
     logging::install();
-    // Without a display the app runs as it otherwise would, only with no windows.
-    const bool noDisplay = qEnvironmentVariableIsEmpty("DISPLAY")
-        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-#ifndef Q_OS_MACOS
-    if (noDisplay)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-#endif
+    if (!displayplatform::choose())
+        return 1;
     QApplication app(argc, argv);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/QuivraMac/Icons/quivramac.svg")));
     QApplication::setOrganizationName(QStringLiteral("Quivra"));
@@ -35,13 +30,20 @@ int main(int argc, char *argv[])
     // Closing the last window leaves the app in the menu bar.
     QApplication::setQuitOnLastWindowClosed(false);
     platform::quitOnTerminationSignals(app);
+    displayplatform::explainFallback();
+    const bool headless = QGuiApplication::platformName() == QLatin1String("offscreen")
+        || QGuiApplication::platformName() == QLatin1String("minimal");
 
     // Before the server manager exists: a second instance must not clean up the first one's
     // server as if it were left over.
     const ControlService::Claim claim = ControlService::claimName();
     if (claim == ControlService::Claim::AlreadyRunning) {
         qCInfo(lcConsole).nospace().noquote() << "QuivraMac is already running";
-        return 0;
+        // Brought to the screen rather than left unseen, unless this launch has no screen either.
+        if (headless || WindowService::askToShowPanel() != WindowService::Answer::Headless)
+            return 0;
+        qCInfo(lcConsole).nospace().noquote() << WindowService::headlessMessage();
+        return 1;
     }
     if (claim == ControlService::Claim::NoSessionBus)
         qCInfo(lcConsole).nospace().noquote()
@@ -59,10 +61,10 @@ int main(int argc, char *argv[])
     if (claim != ControlService::Claim::NoSessionBus)
         notifier = std::make_unique<PairingNotifier>(&manager);
 
-    const bool headless = QGuiApplication::platformName() == QLatin1String("offscreen")
-        || QGuiApplication::platformName() == QLatin1String("minimal");
-    if (headless)
+    if (headless) {
+        const WindowService noWindows({});
         return app.exec();
+    }
 
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     // A few small windows draw fine without the GPU, and the software renderer costs about a
@@ -76,16 +78,11 @@ int main(int argc, char *argv[])
     WindowManager windows({ &manager, &quivra, &ui, &onboarding, &systemCheck });
     QObject::connect(&ui, &UiController::windowRequested, &windows, &WindowManager::open);
 
-    std::unique_ptr<TrayIcon> tray;
-    if (QSystemTrayIcon::isSystemTrayAvailable()) {
-        tray = std::make_unique<TrayIcon>(&quivra, &windows);
-    } else {
-        qCInfo(lcConsole).nospace().noquote() << QStringLiteral(
-            "No system tray on this desktop: the QuivraMac panel opens as a window instead");
-        windows.openPanelAsWindow();
-    }
     if (!quivra.hasCompletedOnboarding())
         windows.open(QStringLiteral("onboarding"));
+    // After the first-run window, so that a panel opened as a window finds its place beside it.
+    TrayIcon tray(&quivra, &manager, &windows);
+    const WindowService windowService([&windows] { windows.showPanel(); });
     // For the benchmarks, which have no way to click: the settings window on its Logs tab.
     if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs")) {
         windows.open(QStringLiteral("settings"));

@@ -7,30 +7,8 @@
 # QUIVRA_REQUIRE_E2E is set, as in CI.
 set -euo pipefail
 
-skip() {
-    if [ -n "${QUIVRA_REQUIRE_E2E:-}" ]; then
-        echo "FAIL (required): $*" >&2
-        exit 1
-    fi
-    echo "SKIP: $*"
-    exit 77
-}
-fail() {
-    echo "FAIL: $*" >&2
-    for log in app.log pair.out sshd.log; do
-        [ -f "$work/$log" ] && { echo "--- $log"; cat "$work/$log"; } >&2
-    done
-    exit 1
-}
-# Polls for a condition, at most $1 seconds.
-within() {
-    local deadline=$((SECONDS + $1))
-    shift
-    until "$@"; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.1
-    done
-}
+logs=(app.log pair.out sshd.log)
+. "$(dirname "$0")/common.sh"
 
 if [ "${1:-}" != --inside ]; then
     for tool in avahi-browse avahi-daemon dbus-daemon dbus-run-session curl ssh ssh-keygen \

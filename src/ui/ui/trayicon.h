@@ -1,27 +1,64 @@
 #pragma once
 
+#include "platform/trayhost.h"
+
+#include <QIcon>
+#include <QMenu>
 #include <QObject>
 #include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <memory>
 
 class QuivraMacApp;
+class ServerManager;
 class WindowManager;
 
-// The menu-bar item: "terminal.fill" once onboarding is complete, "questionmark.circle" before,
-// following the flag live; a click opens the panel beside it.
+// The menu-bar item: the app's symbol once onboarding is complete and a question mark before,
+// following the flag live; a click opens the panel beside it, a right-click its menu. It follows
+// the desktop's tray as it comes and goes, and while no tray shows it the panel is a window.
 class TrayIcon : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
 
 public:
-    TrayIcon(QuivraMacApp *app, WindowManager *windows, QObject *parent = nullptr);
-    static QString symbolName(bool hasCompletedOnboarding);
-    QString currentSymbol() const { return m_symbol; }
+    TrayIcon(QuivraMacApp *app, ServerManager *manager, WindowManager *windows,
+             QObject *parent = nullptr);
+    ~TrayIcon() override;
+
+    // A tray shows the item.
+    bool isShown() const { return m_shown; }
+
+    // The theme's name for the symbol; the desktop recolours "-symbolic" icons for its panel.
+    static QString iconName(bool hasCompletedOnboarding);
+    // That name, with drawings in a mid tone for panels that show pixels as they are.
+    static QIcon icon(bool hasCompletedOnboarding);
+    // The server's state and, while pairing (secondsLeft >= 0), the code's time left.
+    static QString toolTip(bool running, int port, int secondsLeft);
+
+Q_SIGNALS:
+    void shownChanged();
 
 private:
+    void followHost();
+    void createItem();
+    void onActivated(QSystemTrayIcon::ActivationReason reason);
+    void openPanel();
     void updateIcon();
+    void updateToolTip();
 
     QuivraMacApp *m_app;
+    ServerManager *m_manager;
     WindowManager *m_windows;
-    QSystemTrayIcon m_tray;
-    QString m_symbol;
+    TrayHost m_host;
+    QMenu m_menu;
+    // Made once a tray exists: Qt picks the protocol (StatusNotifierItem or XEmbed) when the item
+    // is made and keeps it, so the item only counts as shown while a tray of that kind is there.
+    std::unique_ptr<QSystemTrayIcon> m_tray;
+    bool m_statusNotifierItem = false;
+    bool m_shown = false;
+    bool m_followed = false;
+    bool m_everShown = false;
+    QTimer m_pairingTick;
 };

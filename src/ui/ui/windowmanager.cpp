@@ -1,5 +1,6 @@
 #include "ui/windowmanager.h"
 
+#include "ui/panelplacement.h"
 #include "ui/symbolprovider.h"
 
 #include <QGuiApplication>
@@ -76,7 +77,7 @@ void WindowManager::open(const QString &id)
     window->requestActivate();
 }
 
-void WindowManager::togglePanel(const QRect &besideIcon)
+void WindowManager::togglePanel(const QRect &anchor)
 {
     QQuickWindow *panel = create(QStringLiteral("panel"));
     if (!panel)
@@ -85,23 +86,50 @@ void WindowManager::togglePanel(const QRect &besideIcon)
         panel->hide();
         return;
     }
+    if (!canPlaceWindows()) {
+        openPanelAsWindow();
+        return;
+    }
     panel->setProperty("popover", true);
-    // Below the icon when the tray is at the top of the screen, above it otherwise.
-    const QRect screen = QGuiApplication::screenAt(besideIcon.center())
-        ? QGuiApplication::screenAt(besideIcon.center())->availableGeometry()
-        : QGuiApplication::primaryScreen()->availableGeometry();
-    QPoint at(besideIcon.center().x() - panel->width() / 2, besideIcon.bottom() + 4);
-    if (besideIcon.center().y() > screen.center().y())
-        at.setY(besideIcon.top() - panel->height() - 4);
-    at.setX(std::clamp(at.x(), screen.left(), screen.right() - panel->width()));
-    panel->setPosition(at);
+    const QScreen *screen = QGuiApplication::screenAt(anchor.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    panel->setPosition(panelplacement::beside(anchor, panel->size(), screen->availableGeometry()));
     open(QStringLiteral("panel"));
 }
 
 void WindowManager::openPanelAsWindow()
 {
-    if (QQuickWindow *panel = create(QStringLiteral("panel"))) {
-        panel->setProperty("popover", false);
-        open(QStringLiteral("panel"));
+    QQuickWindow *panel = create(QStringLiteral("panel"));
+    if (!panel)
+        return;
+    panel->setProperty("popover", false);
+    // The first-run window opens in the middle of the screen; the panel must not hide behind it.
+    const QQuickWindow *setup = window(QStringLiteral("onboarding"));
+    if (!panel->isVisible() && setup && setup->isVisible() && canPlaceWindows()) {
+        panel->setPosition(panelplacement::besideWindow(setup->frameGeometry(), panel->size(),
+                                                        setup->screen()->availableGeometry()));
     }
+    open(QStringLiteral("panel"));
+}
+
+void WindowManager::closePanelWindow()
+{
+    QQuickWindow *panel = window(QStringLiteral("panel"));
+    if (panel && !panel->property("popover").toBool())
+        panel->close();
+}
+
+void WindowManager::showPanel()
+{
+    const QQuickWindow *setup = window(QStringLiteral("onboarding"));
+    if (setup && setup->isVisible())
+        open(QStringLiteral("onboarding"));
+    else
+        openPanelAsWindow();
+}
+
+bool WindowManager::canPlaceWindows()
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }

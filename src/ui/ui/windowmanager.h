@@ -27,9 +27,18 @@ public:
 
     // Shows the window, raises it and gives it focus.
     void open(const QString &id);
-    // The panel as a pop-over beside the tray icon, or (without a tray) as a small window.
-    void togglePanel(const QRect &besideIcon);
+    // The panel as a pop-over beside the tray icon's geometry or the point where the tray was
+    // activated; where windows cannot place themselves (Wayland), as a small ordinary window.
+    void togglePanel(const QRect &anchor);
+    // The panel as a small ordinary window, beside the first-run window when that is open.
     void openPanelAsWindow();
+    // The panel's window, when it is not a pop-over: a tray appeared and takes its place.
+    void closePanelWindow();
+    // For a request from outside the tray: the first-run window while it is open, else the panel
+    // as a window.
+    void showPanel();
+    // False on Wayland, where the compositor places every window.
+    static bool canPlaceWindows();
     QQuickWindow *window(const QString &id) const { return m_windows.value(id); }
     bool hasEngine() const { return m_engine != nullptr; }
 

@@ -1,0 +1,24 @@
+#include "commands.h"
+#include "control/windowservice.h"
+
+#include <QTextStream>
+
+namespace commands {
+
+int open()
+{
+    QTextStream err(stderr);
+    switch (WindowService::askToShowPanel()) {
+    case WindowService::Answer::Shown:
+        return Success;
+    case WindowService::Answer::Headless:
+        err << WindowService::headlessMessage() << Qt::endl;
+        return Failed;
+    case WindowService::Answer::NoAnswer:
+        break;
+    }
+    err << "QuivraMac did not answer." << Qt::endl;
+    return Failed;
+}
+
+} // namespace commands
