@@ -3,11 +3,14 @@
 #include "app/quivramacapp.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
+#include "pairingfixture.h"
 #include "platform/userdefaults.h"
+#include "server/authorizedkeys.h"
 #include "ui/pairingcountdown.h"
 #include "ui/uicontroller.h"
 #include "ui/windowmanager.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQmlComponent>
@@ -111,6 +114,25 @@ int QmlHarness::runScheduled()
     while (runOne())
         ++ran;
     return ran;
+}
+
+QQuickItem *QmlHarness::findItem(QQuickItem *under, const QString &objectName)
+{
+    const auto children = under->childItems();
+    for (QQuickItem *child : children) {
+        if (child->objectName() == objectName)
+            return child;
+        if (QQuickItem *found = findItem(child, objectName))
+            return found;
+    }
+    return nullptr;
+}
+
+void QmlHarness::pairPhone(const QString &name, QDate day)
+{
+    const QString key = QString::fromLatin1(ed25519Key("mobile"));
+    authorizedkeys::install(QDir::homePath(), key, day);
+    m_manager->devices().record(name, key, "192.168.1.31", QDateTime(day, QTime(9, 30)));
 }
 
 QImage QmlHarness::grab(int shorterBy)

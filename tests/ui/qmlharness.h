@@ -31,6 +31,9 @@ public:
     OnboardingFlow &onboarding() { return *m_onboarding; }
     SystemCheck &systemCheck() { return *m_systemCheck; }
     QuivraMacApp &app() { return *m_app; }
+    UiController &ui() { return *m_ui; }
+    // A phone paired on that day, as a pairing leaves it: its key installed and recorded.
+    void pairPhone(const QString &name, QDate day);
     // The system check's pauses wait here until run; each run may schedule more.
     int runScheduled();
     // Runs the earliest waiting pause only; false when none waits.
@@ -52,14 +55,20 @@ public:
     QQuickItem *view() const { return m_view; }
     void setDark(bool dark);
 
+    // Also finds the delegates of lists, which are items of the view but not its children.
     template<typename T = QObject> T *find(const QString &objectName) const
     {
-        return m_view ? m_view->findChild<T *>(objectName) : nullptr;
+        if (!m_view)
+            return nullptr;
+        if (T *found = m_view->findChild<T *>(objectName))
+            return found;
+        return qobject_cast<T *>(findItem(m_view, objectName));
     }
     // Texts of every visible Text item, for "what is shown".
     QStringList visibleTexts() const;
 
 private:
+    static QQuickItem *findItem(QQuickItem *under, const QString &objectName);
     QQuickItem *load(const QString &viewType, QQuickWindow *window);
 
     std::shared_ptr<GuardedProcessTable> m_processes = std::make_shared<GuardedProcessTable>();

@@ -213,7 +213,33 @@ int main(int argc, char *argv[])
               h.view()->setProperty("selectedTab", 1);
           },
           { 500, 400 } },
-
+        { "settings-devices-empty",
+          "SettingsView",
+          [](QmlHarness &h) {
+              // The light pictures' phones would still be paired in the dark ones.
+              QFile::remove(QDir::homePath() + "/.ssh/authorized_keys");
+              h.view()->setProperty("selectedTab", 2);
+              if (!QTest::qWaitFor([&h] { return h.find<QQuickItem>("noDevices")->isVisible(); },
+                                   5000))
+                  qWarning("the device list did not follow authorized_keys");
+          },
+          { 500, 400 } },
+        { "settings-devices",
+          "SettingsView",
+          [](QmlHarness &h) {
+              h.pairPhone("Work iPhone", QDate(2026, 9, 14));
+              h.pairPhone("Ana’s iPhone 15 Pro", QDate(2026, 11, 20));
+              h.view()->setProperty("selectedTab", 2);
+          },
+          { 500, 400 } },
+        { "settings-devices-confirm",
+          "SettingsView",
+          [](QmlHarness &h) {
+              h.view()->setProperty("selectedTab", 2);
+              const QString newest = h.manager().devices().devices().constFirst().fingerprint;
+              h.find<QObject>("devicesTab")->setProperty("confirming", newest);
+          },
+          { 500, 400 } },
     };
 
     int failures = 0;

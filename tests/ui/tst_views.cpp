@@ -1,5 +1,7 @@
 #include "qmlharness.h"
+#include "ui/devicelist.h"
 #include "ui/pairingcountdown.h"
+#include "ui/uicontroller.h"
 
 #include <QClipboard>
 
@@ -103,6 +105,44 @@ private Q_SLOTS:
         view->setProperty("selectedTab", 0);
         click("startStopButton");
         QVERIFY(!h().manager().isRunning());
+    }
+
+    void pairedPhonesAreListedAndRevokedWithConfirmation()
+    {
+        h().show("MenuBarView");
+        QVERIFY(!h().find<QQuickItem>("lastPairedRow")->isVisible());
+        h().pairPhone("Ana's iPhone", QDate(2026, 11, 20));
+        QTRY_VERIFY(h().find<QQuickItem>("lastPairedRow")->isVisible());
+        QCOMPARE(text("lastPairedRow"), "Last paired: Ana's iPhone");
+        QSignalSpy requested(&h().ui(), &UiController::windowRequested);
+        click("lastPairedRow");
+        QCOMPARE(requested.value(0).value(0).toString(), "settings");
+        QCOMPARE(h().ui().settingsTab(), UiController::DevicesTab);
+        // "Settings..." opens on General again.
+        h().ui().openWindow("settings");
+        QCOMPARE(h().ui().settingsTab(), UiController::GeneralTab);
+
+        QQuickItem *view = h().show("SettingsView");
+        view->setProperty("selectedTab", UiController::DevicesTab);
+        const QString fingerprint = h().manager().devices().devices().value(0).fingerprint;
+        QTRY_VERIFY(h().find<QObject>("deviceName"));
+        QCOMPARE(text("deviceName"), "Ana's iPhone");
+        QVERIFY(!h().find<QQuickItem>("confirmRevoke")->isVisible());
+        click("revokeButton");
+        QVERIFY(h().find<QQuickItem>("confirmRevoke")->isVisible());
+        click("cancelRevoke");
+        QVERIFY(!h().find<QQuickItem>("confirmRevoke")->isVisible());
+        QCOMPARE(h().manager().devices().devices().size(), 1);
+
+        click("revokeButton");
+        click("confirmRevoke");
+        QVERIFY(h().manager().devices().devices().isEmpty());
+        QTRY_VERIFY(h().find<QQuickItem>("noDevices")->isVisible());
+        QVERIFY(text("revokeOutcome").startsWith("Revoked"));
+        QFile keys(QDir::homePath() + "/.ssh/authorized_keys");
+        QVERIFY(keys.open(QIODevice::ReadOnly));
+        QVERIFY(!keys.readAll().contains("ssh-ed25519"));
+        QCOMPARE(DeviceList::shortFingerprint(fingerprint).size(), 7 + 12 + 1);
     }
 };
 

@@ -25,6 +25,13 @@ ThemedSurface {
         PairingSection {
             Layout.fillWidth: true
         }
+        MenuRowButton {
+            objectName: "lastPairedRow"
+            visible: Ui.devices.count > 0
+            title: "Last paired: " + Ui.devices.newestName
+            symbol: "checkmark.circle.fill"
+            onClicked: Ui.openSettings(Ui.DevicesTab)
+        }
         Divider {}
         MenuRowButton {
             title: "Setup Assistant..."

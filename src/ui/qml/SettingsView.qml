@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// Two tabs, General and Logs; a new window always starts on General.
+// Three tabs, General, Logs and Devices; the window decides which one it opens on.
 ThemedSurface {
     id: view
     property alias selectedTab: tabs.currentIndex
@@ -19,7 +19,8 @@ ThemedSurface {
             Layout.topMargin: 8
             background: null
             Repeater {
-                model: [{ title: "General", symbol: "gear" }, { title: "Logs", symbol: "doc.text" }]
+                model: [{ title: "General", symbol: "gear" }, { title: "Logs", symbol: "doc.text" },
+                        { title: "Devices", symbol: "iphone.gen3" }]
                 delegate: TabButton {
                     id: tab
                     required property var modelData
@@ -55,6 +56,7 @@ ThemedSurface {
             Layout.fillHeight: true
             GeneralTab {}
             LogsTab {}
+            DevicesTab {}
         }
     }
 }

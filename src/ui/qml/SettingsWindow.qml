@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Window
+import QuivraMac.Ui
 
 Window {
     title: "Settings"
@@ -10,8 +11,12 @@ Window {
     minimumHeight: 400
     maximumHeight: 400
     color: Theme.background
-    // A window opened anew starts on the General tab.
-    onVisibleChanged: if (visible) view.selectedTab = 0
+    // A window opened anew starts on the tab it was asked for, General unless said otherwise.
+    onVisibleChanged: if (visible) view.selectedTab = Ui.settingsTab
+    Connections {
+        target: Ui
+        function onSettingsTabRequested() { view.selectedTab = Ui.settingsTab }
+    }
     SettingsView {
         id: view
         objectName: "settingsView"

@@ -19,6 +19,7 @@ const QString launchAtLoginKey = QStringLiteral("launchAtLogin");
 UiController::UiController(ServerManager *serverManager, QObject *parent)
     : QObject(parent)
     , m_serverManager(serverManager)
+    , m_devices(serverManager ? &serverManager->devices() : nullptr)
 {
     userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
     if (serverManager)
@@ -86,7 +87,17 @@ void UiController::clearLogs()
 
 void UiController::openWindow(const QString &id)
 {
+    // Opened from the panel's "Settings...", the window starts on General.
+    if (id == QStringLiteral("settings"))
+        m_settingsTab = GeneralTab;
     Q_EMIT windowRequested(id);
+}
+
+void UiController::openSettings(SettingsTab tab)
+{
+    m_settingsTab = tab;
+    Q_EMIT settingsTabRequested();
+    Q_EMIT windowRequested(QStringLiteral("settings"));
 }
 
 void UiController::quit()

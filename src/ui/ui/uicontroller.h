@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/devicelist.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -17,6 +19,9 @@ class UiController : public QObject
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
     // What a person enters in the phone app to add this computer by hand.
     Q_PROPERTY(QString manualSetupDetails READ manualSetupDetails NOTIFY manualSetupDetailsChanged)
+    Q_PROPERTY(DeviceList *devices READ devices CONSTANT)
+    // The settings tab the settings window shows when it opens.
+    Q_PROPERTY(int settingsTab READ settingsTab NOTIFY settingsTabRequested)
 
 public:
     explicit UiController(ServerManager *serverManager, QObject *parent = nullptr);
@@ -28,6 +33,11 @@ public:
     // Stored under "launchAtLogin" and applied at once.
     void setLaunchAtLogin(bool on);
     QString manualSetupDetails() const;
+    DeviceList *devices() { return &m_devices; }
+    int settingsTab() const { return m_settingsTab; }
+
+    enum SettingsTab { GeneralTab, LogsTab, DevicesTab };
+    Q_ENUM(SettingsTab)
 
     // Decides on the server's state at the moment of the call: stopped starts, running stops.
     Q_INVOKABLE void toggleServer();
@@ -35,6 +45,8 @@ public:
     Q_INVOKABLE void clearLogs();
     // Asks for the window through windowRequested.
     Q_INVOKABLE void openWindow(const QString &id);
+    // The settings window on that tab, whether it was open or not.
+    Q_INVOKABLE void openSettings(SettingsTab tab);
     Q_INVOKABLE void quit();
     Q_INVOKABLE void copyText(const QString &text);
     Q_INVOKABLE QString uptimeText(double seconds) const;
@@ -46,7 +58,10 @@ Q_SIGNALS:
     void launchAtLoginChanged();
     void manualSetupDetailsChanged();
     void windowRequested(const QString &id);
+    void settingsTabRequested();
 
 private:
     QPointer<ServerManager> m_serverManager;
+    DeviceList m_devices;
+    int m_settingsTab = GeneralTab;
 };

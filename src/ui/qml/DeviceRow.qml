@@ -1,0 +1,107 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QuivraMac.Ui
+
+// One paired phone in the Devices tab; while `confirming`, the question that names it.
+Item {
+    id: row
+    required property string name
+    required property string fingerprint
+    required property string shortFingerprint
+    required property string paired
+    required property int index
+    property bool confirming: false
+    signal askRevoke()
+    signal cancel()
+    signal confirm()
+
+    implicitHeight: content.implicitHeight + 24
+
+    component LinkButton: AbstractButton {
+        id: link
+        property color color: Theme.accentColor
+        Accessible.name: text
+        contentItem: Text { text: link.text; font.pixelSize: 12; color: link.color }
+    }
+
+    Rectangle {
+        visible: row.index > 0
+        width: parent.width - 24
+        x: 12
+        height: 1
+        color: Theme.separator
+    }
+    ColumnLayout {
+        id: content
+        x: 12
+        y: 12
+        width: parent.width - 24
+        spacing: 4
+        RowLayout {
+            Layout.fillWidth: true
+            Text {
+                objectName: "deviceName"
+                // A long name may be shortened; the confirmation shows it whole.
+                property bool mayElide: true
+                Layout.fillWidth: true
+                text: row.name
+                elide: Text.ElideRight
+                font.pixelSize: 13
+                font.weight: Font.Medium
+                color: Theme.text
+            }
+            LinkButton {
+                objectName: "revokeButton"
+                visible: !row.confirming
+                text: "Revoke\u2026"
+                color: Theme.red
+                onClicked: row.askRevoke()
+            }
+        }
+        RowLayout {
+            spacing: 8
+            AbstractButton {
+                id: fingerprintLabel
+                text: row.shortFingerprint
+                Accessible.name: row.fingerprint
+                hoverEnabled: true
+                ToolTip.visible: hovered
+                ToolTip.text: row.fingerprint
+                ToolTip.delay: 500
+                contentItem: Text {
+                    text: fingerprintLabel.text
+                    font.family: Theme.monospace
+                    font.pixelSize: 11
+                    color: Theme.textSecondary
+                }
+            }
+            LinkButton { text: "Copy"; onClicked: Ui.copyText(row.fingerprint) }
+            Text { text: "Paired " + row.paired; font.pixelSize: 11; color: Theme.textSecondary }
+        }
+        ColumnLayout {
+            visible: row.confirming
+            Layout.fillWidth: true
+            Layout.topMargin: 6
+            spacing: 8
+            Text {
+                Layout.fillWidth: true
+                text: "Revoke \u201c" + row.name + "\u201d? It will no longer be able to log in to this computer."
+                wrapMode: Text.Wrap
+                font.pixelSize: 12
+                color: Theme.text
+            }
+            RowLayout {
+                spacing: 8
+                Button { objectName: "cancelRevoke"; text: "Cancel"; onClicked: row.cancel() }
+                Button {
+                    objectName: "confirmRevoke"
+                    text: "Revoke"
+                    palette.button: Theme.red
+                    palette.buttonText: "#ffffff"
+                    onClicked: row.confirm()
+                }
+            }
+        }
+    }
+}
