@@ -5,6 +5,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusContext>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QSettings>
 
 #include <optional>
@@ -88,7 +89,11 @@ class TestDesktop : public QObject
             QDBusMessage::createMethodCall(m_watcher.registered.constLast(), "/StatusNotifierItem",
                                            "org.kde.StatusNotifierItem", method);
         call.setArguments(arguments);
-        return QDBusConnection::sessionBus().call(call);
+        // Not a blocking call: whatever the app asks this test's watcher meanwhile is answered.
+        const QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(call);
+        if (!QTest::qWaitFor([&] { return pending.isFinished(); }, 30000))
+            return {};
+        return pending.reply();
     }
 
     void activateAt(int x, int y)

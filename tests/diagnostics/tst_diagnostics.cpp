@@ -1,5 +1,6 @@
 #include "diagnostics/diagnosticengine.h"
 #include "diagnostics/sshprobe.h"
+#include "platform/wording.h"
 #include "testsupport.h"
 
 #include <QDir>
@@ -118,6 +119,47 @@ private Q_SLOTS:
         QTRY_COMPARE(verdicts.size(), 4);
     }
 
+#ifndef Q_OS_MACOS
+    // The SSH server's and Eternal Terminal's install steps follow the system's family.
+    void installStepsFollowOsRelease_data()
+    {
+        QTest::addColumn<QString>("osRelease");
+        QTest::addColumn<QString>("ssh");
+        QTest::addColumn<QString>("et");
+        const QString apt = "SSH server is not running. Install it with: sudo apt install "
+                            "openssh-server";
+        QTest::newRow("debian") << "PRETTY_NAME=\"Debian GNU/Linux 12 (bookworm)\"\nID=debian\n"
+                                << apt << "";
+        QTest::newRow("ubuntu")
+            << "ID=ubuntu\nID_LIKE=debian\n"
+            << apt << "sudo add-apt-repository ppa:jgmath2000/et && sudo apt install et";
+        QTest::newRow("mint, quoted") << "ID=linuxmint\nID_LIKE=\"ubuntu debian\"\n"
+                                      << apt
+                                      << "sudo add-apt-repository ppa:jgmath2000/et && sudo apt "
+                                         "install et";
+        QTest::newRow("fedora") << "NAME=\"Fedora Linux\"\nID=fedora\n"
+                                << "SSH server is not running. Install it with: sudo dnf install "
+                                   "openssh-server && sudo systemctl enable --now sshd"
+                                << "sudo dnf install et";
+        QTest::newRow("manjaro") << "ID=manjaro\nID_LIKE=arch\n"
+                                 << "SSH server is not running. Install it with: sudo pacman -S "
+                                    "openssh && sudo systemctl enable --now sshd"
+                                 << "yay -S eternalterminal";
+        const QString other = "SSH server is not running. Install and start OpenSSH's sshd.";
+        QTest::newRow("alpine") << "ID=alpine\n" << other << "";
+        QTest::newRow("unreadable") << "" << other << "";
+        QTest::newRow("look-alike keys") << "ID_LIKE_NOT=debian\nXID=fedora\n" << other << "";
+    }
+    void installStepsFollowOsRelease()
+    {
+        QFETCH(QString, osRelease);
+        QFETCH(QString, ssh);
+        QFETCH(QString, et);
+        QCOMPARE(wording::sshNotRunningOn(osRelease), ssh);
+        QCOMPARE(wording::etserverInstallCommandOn(osRelease), et);
+    }
+#endif
+
     void engineReportsReadinessWithoutTailscale()
     {
         makeSsh(rwx, rw);
@@ -138,7 +180,7 @@ private Q_SLOTS:
                  (DiagnosticInfo { "etserver", "Quivra Server", false,
                                    QStringLiteral("Server manager not available"), true }));
         QCOMPARE(report.diagnostics.at(0),
-                 (DiagnosticInfo { "ssh_daemon", "Remote Login", true, std::nullopt, false }));
+                 (DiagnosticInfo { "ssh_daemon", "SSH Server", true, std::nullopt, false }));
         QCOMPARE(report.ip, "10.0.0.7");
         QVERIFY(!report.tailscaleIP);
 

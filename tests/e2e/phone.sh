@@ -92,7 +92,7 @@ step "phone: GET /status"
 status=$(curl -sS --max-time 5 "http://127.0.0.1:$port/status")
 echo "$status"
 for field in '"ready":true' "\"hostname\":\"$label\"" "\"username\":\"$(id -un)\"" \
-    '"ip":"192.0.2.10"' '"pairingPort":8080' '"id":"ssh_daemon","name":"Remote Login","passed":true' \
+    '"ip":"192.0.2.10"' '"pairingPort":8080' '"id":"ssh_daemon","name":"SSH Server","passed":true' \
     '"id":"ssh_dir"' '"id":"auth_keys"' '"id":"etserver","name":"Quivra Server","passed":true' \
     '"id":"network"' '"id":"tailscale"'; do
     grep -qF "$field" <<<"$status" || fail "status lacks $field"

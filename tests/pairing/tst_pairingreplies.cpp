@@ -1,6 +1,7 @@
 #include "pairing/pairinglistener.h"
 #include "pairingfixture.h"
 #include "phoneclient.h"
+#include "platform/wording.h"
 
 #include <QDir>
 
@@ -65,9 +66,7 @@ private Q_SLOTS:
         QCOMPARE(
             exchange(m_fixture->port(), "GET /status HTTP/1.1\r\n\r\n"),
             json("{\"ready\":false,\"diagnostics\":["
-                 + check("ssh_daemon", "Remote Login",
-                         "Remote Login is disabled. Enable it in System Settings \xe2\x86\x92 "
-                         "General \xe2\x86\x92 Sharing \xe2\x86\x92 Remote Login")
+                 + check("ssh_daemon", "SSH Server", wording::sshNotRunning().toUtf8().constData())
                  + "," + check("ssh_dir", "SSH Directory", "~\\/.ssh directory doesn't exist", true)
                  + ","
                  + check("auth_keys", "Authorized Keys", "~\\/.ssh directory doesn't exist", true)
@@ -85,8 +84,8 @@ private Q_SLOTS:
         const QByteArray reply =
             exchange(m_fixture->port(), "GET /status?verbose=1 HTTP/1.1\r\nHost: x\r\n\r\n");
         QCOMPARE(reply,
-                 json("{\"ready\":true,\"diagnostics\":[" + check("ssh_daemon", "Remote Login")
-                      + "," + check("ssh_dir", "SSH Directory") + ","
+                 json("{\"ready\":true,\"diagnostics\":[" + check("ssh_daemon", "SSH Server") + ","
+                      + check("ssh_dir", "SSH Directory") + ","
                       + check("auth_keys", "Authorized Keys") + ","
                       + check("etserver", "Quivra Server") + "," + check("network", "Network") + ","
                       + check("tailscale", "Tailscale")

@@ -1,10 +1,17 @@
 #include "testsupport.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTcpServer>
 
 namespace testsupport {
+
+bool speaksOfAMac(QString text)
+{
+    static const QRegularExpression mac(QStringLiteral("\\bMac"));
+    return text.remove(QStringLiteral("QuivraMac")).remove(QStringLiteral("Add Mac")).contains(mac);
+}
 
 QString isolateHome()
 {

@@ -16,6 +16,10 @@ namespace testsupport {
 // test reads or writes the real user's files. Called before the application object exists.
 QString isolateHome();
 
+// Whether a text names a Mac where this platform says "computer": anything but the product's
+// name and the phone's own "Add Mac" button.
+bool speaksOfAMac(QString text);
+
 // A process table that signals only the processes a test started itself.
 class GuardedProcessTable : public platform::ProcessTable
 {

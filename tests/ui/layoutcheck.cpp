@@ -1,5 +1,7 @@
 #include "layoutcheck.h"
 
+#include "testsupport.h"
+
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -135,6 +137,12 @@ QStringList faults(QQuickWindow *window)
         if (text->property("truncated").toBool() && !text->property("mayElide").toBool())
             found.append(describe(text) + ": cut short");
     }
+#ifndef Q_OS_MACOS
+    for (QQuickItem *text : std::as_const(texts)) {
+        if (testsupport::speaksOfAMac(text->property("text").toString()))
+            found.append(describe(text) + ": speaks of a Mac");
+    }
+#endif
     for (qsizetype i = 0; i < controls.size(); ++i) {
         for (qsizetype j = i + 1; j < controls.size(); ++j) {
             const QQuickItem *a = controls[i];

@@ -25,10 +25,12 @@ void prepareQuick()
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 }
 
-QmlHarness::QmlHarness()
+QmlHarness::QmlHarness(Etserver etserver)
 {
     userdefaults::setValue(QStringLiteral("autoStartServer"), false);
     ServerEnvironment env = environment(m_processes);
+    if (etserver == WithoutEtserver)
+        env.locateExecutable = [] { return QString(); };
     env.localIP = [] { return QStringLiteral("192.168.1.20"); };
     env.diagnostics.interfaces = [] {
         return QList<net::InterfaceAddress> { { "lo", true, "127.0.0.1" },
@@ -50,6 +52,11 @@ QmlHarness::QmlHarness()
     m_ui = std::make_unique<UiController>(m_manager.get());
     // A fresh engine with this harness's objects as its singletons.
     m_engine = std::make_unique<QQmlEngine>();
+    QObject::connect(m_engine.get(), &QQmlEngine::warnings, m_engine.get(),
+                     [this](const QList<QQmlError> &warnings) {
+                         for (const QQmlError &warning : warnings)
+                             m_warnings.append(warning.toString());
+                     });
     WindowManager::prepareEngine(
         m_engine.get(),
         { m_manager.get(), m_app.get(), m_ui.get(), m_onboarding.get(), m_systemCheck.get() });

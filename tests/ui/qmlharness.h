@@ -11,6 +11,7 @@
 #include <QTcpServer>
 
 #include <list>
+#include <utility>
 
 class OnboardingFlow;
 class QuivraMacApp;
@@ -24,7 +25,8 @@ namespace testsupport {
 class QmlHarness
 {
 public:
-    QmlHarness();
+    enum Etserver { WithEtserver, WithoutEtserver };
+    explicit QmlHarness(Etserver etserver = WithEtserver);
     ~QmlHarness();
 
     ServerManager &manager() { return *m_manager; }
@@ -66,6 +68,9 @@ public:
     }
     // Texts of every visible Text item, for "what is shown".
     QStringList visibleTexts() const;
+    // What the views' code complained of since the last call, such as a name it could not
+    // resolve.
+    QStringList takeQmlWarnings() { return std::exchange(m_warnings, {}); }
 
 private:
     static QQuickItem *findItem(QQuickItem *under, const QString &objectName);
@@ -82,6 +87,7 @@ private:
     std::unique_ptr<SystemCheck> m_systemCheck;
     std::unique_ptr<OnboardingFlow> m_onboarding;
     std::unique_ptr<QQmlEngine> m_engine;
+    QStringList m_warnings;
     std::unique_ptr<QQuickWindow> m_window;
     std::list<QQuickWindow> m_otherWindows;
     QQuickItem *m_view = nullptr;

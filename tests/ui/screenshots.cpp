@@ -59,7 +59,7 @@ int saveAndCheck(QmlHarness &h, const QString &file, QSize expected)
                   image.height());
         ++faults;
     }
-    const QStringList layout = layoutcheck::faults(h.window());
+    const QStringList layout = layoutcheck::faults(h.window()) + h.takeQmlWarnings();
     for (const QString &fault : layout)
         qCritical("%s: %s", qPrintable(QFileInfo(file).baseName()), qPrintable(fault));
     if (faults == 0 && layout.isEmpty())
@@ -131,6 +131,33 @@ int onboardingShots(const QDir &out)
             failures += saveAndCheck(h, out.filePath(name + (dark ? "-dark" : "-light") + ".png"),
                                      { 600, 500 });
         }
+    }
+    return failures;
+}
+
+// Without etserver: the panel and the setup check point to the install steps.
+int missingEtserverShots(const QDir &out)
+{
+    const QString ssh = QDir::homePath() + "/.ssh";
+    int failures = 0;
+    for (const bool dark : { false, true }) {
+        const QString scheme = dark ? "-dark.png" : "-light.png";
+        QmlHarness h(QmlHarness::WithoutEtserver);
+        h.setDark(dark);
+        QDir().mkpath(ssh);
+        QFile::setPermissions(ssh, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        h.manager().startServer();
+        h.show("MenuBarView");
+        failures += saveAndCheck(h, out.filePath("panel-etserver-missing" + scheme), { 280, 0 });
+        h.show("InstallEtSheet");
+        failures += saveAndCheck(h, out.filePath("install-etserver" + scheme), { 460, 0 });
+        h.onboarding().appear();
+        h.show("OnboardingView");
+        h.onboarding().welcomeContinue();
+        h.onboarding().explanationContinue();
+        runChecksUntil(h, [&] { return h.systemCheck().failedIndex() >= 0; });
+        failures +=
+            saveAndCheck(h, out.filePath("setup-check-etserver-missing" + scheme), { 600, 500 });
     }
     return failures;
 }
@@ -259,6 +286,7 @@ int main(int argc, char *argv[])
         }
     }
     failures += onboardingShots(out);
+    failures += missingEtserverShots(out);
     failures += checkCatchesAShortWindow();
     return failures == 0 ? 0 : 1;
 }

@@ -12,6 +12,9 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSysInfo>
 
 using Flow = OnboardingFlow;
@@ -66,7 +69,12 @@ private Q_SLOTS:
         m_harness = std::make_unique<testsupport::QmlHarness>();
         makeSshDirectory(owner);
     }
-    void cleanup() { m_harness.reset(); }
+    void cleanup()
+    {
+        const QStringList warnings = h().takeQmlWarnings();
+        QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
+        m_harness.reset();
+    }
 
     void flowFollowsItsTransitionTable()
     {
@@ -108,7 +116,7 @@ private Q_SLOTS:
         flow.appear();
         QCOMPARE(flow.step(), Flow::Welcome);
         QCOMPARE(Flow::message(Flow::NetworkMismatch, "Home"),
-                 "Your Mac is on \"Home\". Make sure your iPhone is on the same network.");
+                 "Your computer is on \"Home\". Make sure your iPhone is on the same network.");
     }
 
     void keyboardAloneReachesSuccessWithARealPhone()
@@ -166,7 +174,7 @@ private Q_SLOTS:
         QCOMPARE(states(check),
                  (QList { SystemCheck::Checking, SystemCheck::Pending, SystemCheck::Pending,
                           SystemCheck::Pending }));
-        QCOMPARE(check.title(), "Checking your Mac...");
+        QCOMPARE(check.title(), "Checking your computer...");
         runChecks(check);
         QVERIFY(check.allPassed());
         QCOMPARE(check.title(), "Looking good!");
@@ -204,7 +212,23 @@ private Q_SLOTS:
         check.start();
         runChecks(check);
         QCOMPARE(check.failedIndex(), 0);
-        QCOMPARE(check.failedMessage(), "Remote Login is disabled");
+        QVERIFY(check.failedMessage().startsWith("SSH server is not running."));
+        QVERIFY(check.failedPrompt().contains("Help me install and start the SSH server on this "
+                                              "computer so I can connect from my iPhone."));
+    }
+
+    void missingEtserverIsNamedWithItsRequest()
+    {
+        m_harness =
+            std::make_unique<testsupport::QmlHarness>(testsupport::QmlHarness::WithoutEtserver);
+        makeSshDirectory(owner);
+        SystemCheck &check = h().systemCheck();
+        check.appear();
+        runChecks(check);
+        QCOMPARE(check.items().value(check.failedIndex()).id, "etserver");
+        QCOMPARE(check.failedMessage(), "Eternal Terminal is not installed");
+        QVERIFY(check.failedPrompt().endsWith("Help me install Eternal Terminal's etserver on "
+                                              + QSysInfo::prettyProductName() + "."));
     }
 
     void serverThatCannotBindNamesThePort()
@@ -242,6 +266,43 @@ private Q_SLOTS:
             prompts::serverCrash(-1, log).contains("exited with code -1.\n\nLast log output:\n```\n"
                                                    + QString(500, 'b') + "\n```\n\nHelp me"));
         QVERIFY(prompts::serverCrash(-1, {}).contains("exited with code -1.\n\nHelp me"));
+    }
+
+    // The screens are scanned by the screenshots' layout check; these are the texts they do not
+    // show whole: the help requests, the phone's report, the check's rows and messages.
+    void linuxWordsNeverSpeakOfAMac()
+    {
+#ifdef Q_OS_MACOS
+        QSKIP("macOS keeps its own words");
+#endif
+        QStringList texts = { prompts::context(),
+                              prompts::remoteLogin(),
+                              prompts::missingSshDirectory(),
+                              prompts::wrongPermissions("755"),
+                              prompts::portInUse(2022),
+                              prompts::serverCrash(1, {}),
+                              prompts::noNetwork(),
+                              prompts::etserverMissing(),
+                              h().systemCheck().title() };
+        for (const auto kind :
+             { Flow::NetworkMismatch, Flow::WrongCode, Flow::Timeout, Flow::ConnectionFailed })
+            texts << Flow::message(kind, "Home");
+        h().closeSshDaemon();
+        h().systemCheck().appear();
+        runChecks(h().systemCheck());
+        texts << h().systemCheck().failedMessage() << h().systemCheck().failedPrompt();
+        for (const SystemCheck::Item &item : h().systemCheck().items())
+            texts << item.name << item.successMessage;
+        h().manager().startServer();
+        QTRY_VERIFY(h().manager().pairingListener());
+        const QJsonDocument report =
+            QJsonDocument::fromJson(testsupport::replyBody(testsupport::exchange(
+                h().manager().pairingListener()->port(), "GET /status HTTP/1.1\r\n\r\n")));
+        for (const QJsonValue check : report["diagnostics"].toArray())
+            texts << check["name"].toString() << check["message"].toString();
+        QCOMPARE(report["diagnostics"][0]["name"].toString(), "SSH Server");
+        for (const QString &text : std::as_const(texts))
+            QVERIFY2(!testsupport::speaksOfAMac(text), qPrintable(text));
     }
 
     void promptCardCopiesAndResetsPerCopy()

@@ -24,7 +24,12 @@ class TestViews : public QObject
 
 private Q_SLOTS:
     void init() { m_harness = std::make_unique<testsupport::QmlHarness>(); }
-    void cleanup() { m_harness.reset(); }
+    void cleanup()
+    {
+        const QStringList warnings = h().takeQmlWarnings();
+        QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
+        m_harness.reset();
+    }
 
     void headerFollowsTheServer()
     {
@@ -105,6 +110,24 @@ private Q_SLOTS:
         view->setProperty("selectedTab", 0);
         click("startStopButton");
         QVERIFY(!h().manager().isRunning());
+    }
+
+    void missingEtserverOffersItsInstallSteps()
+    {
+        m_harness =
+            std::make_unique<testsupport::QmlHarness>(testsupport::QmlHarness::WithoutEtserver);
+        h().show("MenuBarView");
+        QVERIFY(!h().find<QQuickItem>("installEtRow")->isVisible());
+        h().manager().startServer();
+        QTRY_VERIFY(h().find<QQuickItem>("installEtRow")->isVisible());
+        QSignalSpy requested(&h().ui(), &UiController::windowRequested);
+        click("installEtRow");
+        QCOMPARE(requested.value(0).value(0).toString(), "installEt");
+
+        h().show("SettingsView");
+        QVERIFY(h().find<QQuickItem>("installEtLink")->isVisible());
+        h().show("InstallEtSheet");
+        QVERIFY(h().visibleTexts().contains("2. Choose Start Server in the QuivraMac panel."));
     }
 
     void pairedPhonesAreListedAndRevokedWithConfirmation()

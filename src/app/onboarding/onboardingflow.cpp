@@ -2,6 +2,7 @@
 
 #include "app/quivramacapp.h"
 #include "platform/autostart.h"
+#include "platform/wording.h"
 #include "server/servermanager.h"
 
 OnboardingFlow::OnboardingFlow(ServerManager *serverManager, QuivraMacApp *app, QObject *parent)
@@ -33,15 +34,13 @@ QString OnboardingFlow::message(ErrorKind kind, const QString &macNetwork)
 {
     switch (kind) {
     case NetworkMismatch:
-        return QStringLiteral(
-                   "Your Mac is on \"%1\". Make sure your iPhone is on the same network.")
-            .arg(macNetwork);
+        return wording::networkMismatch().arg(macNetwork);
     case WrongCode:
         return QStringLiteral("The code entered on your iPhone didn't match.");
     case Timeout:
         return QStringLiteral("No device connected within the time limit.");
     case ConnectionFailed:
-        return QStringLiteral("Your iPhone couldn't reach this Mac.");
+        return wording::connectionFailed();
     }
     return {};
 }

@@ -1,6 +1,7 @@
 #include "onboarding/prompts.h"
 
 #include "net/hostlabel.h"
+#include "platform/wording.h"
 
 #include <QStringList>
 #include <QSysInfo>
@@ -16,24 +17,29 @@ QString issue(const QString &firstLine, const QString &body)
 
 } // namespace
 
-QString context()
+QString systemName()
 {
 #ifdef Q_OS_MACOS
-    const QString system = QStringLiteral("macOS ") + QSysInfo::productVersion();
+    return QStringLiteral("macOS ") + QSysInfo::productVersion();
 #else
-    const QString system = QSysInfo::prettyProductName();
+    return QSysInfo::prettyProductName();
 #endif
+}
+
+QString context()
+{
+    const QString system = systemName();
     const QString host = net::hostLabel();
     return system + QStringLiteral(", QuivraMac ") + QStringLiteral(QUIVRA_VERSION)
-        + QStringLiteral("\nHost: ") + (host.isEmpty() ? QStringLiteral("Mac") : host);
+        + QStringLiteral("\nHost: ") + (host.isEmpty() ? wording::machine() : host);
 }
 
 QString remoteLogin()
 {
-    return issue(QStringLiteral("Remote Login is disabled."),
+    return issue(wording::sshRequestTitle(),
                  QStringLiteral("I tried to connect to port 22 locally and it was refused, which "
-                                "means the SSH daemon isn't running.\n\nHelp me enable Remote "
-                                "Login on this Mac so I can connect from my iPhone."));
+                                "means the SSH daemon isn't running.\n\n")
+                     + wording::sshRequest());
 }
 
 QString missingSshDirectory()
@@ -75,8 +81,17 @@ QString noNetwork()
 {
     return issue(QStringLiteral("No network connection detected."),
                  QStringLiteral("I couldn't find a usable network interface (WiFi or Ethernet). "
-                                "The only IP available is 127.0.0.1.\n\nHelp me troubleshoot why "
-                                "my Mac doesn't have a network connection."));
+                                "The only IP available is 127.0.0.1.\n\n")
+                     + wording::noNetworkRequest());
+}
+
+QString etserverMissing()
+{
+    return issue(QStringLiteral("Eternal Terminal is not installed."),
+                 QStringLiteral("QuivraMac runs Eternal Terminal's etserver so that my iPhone's "
+                                "sessions survive network changes, but etserver is not installed "
+                                "here.\n\nHelp me install Eternal Terminal's etserver on ")
+                     + systemName() + QStringLiteral("."));
 }
 
 QString preview(const QString &prompt)

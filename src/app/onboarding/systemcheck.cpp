@@ -4,6 +4,7 @@
 #include "diagnostics/sshprobe.h"
 #include "net/localaddress.h"
 #include "onboarding/prompts.h"
+#include "platform/wording.h"
 #include "server/servermanager.h"
 
 SystemCheck::SystemCheck(ServerManager *serverManager, Scheduler scheduler, QString sshHost,
@@ -41,8 +42,7 @@ QString SystemCheck::title() const
 {
     if (m_allPassed)
         return QStringLiteral("Looking good!");
-    return m_failed >= 0 ? QStringLiteral("Almost there...")
-                         : QStringLiteral("Checking your Mac...");
+    return m_failed >= 0 ? QStringLiteral("Almost there...") : wording::checkingMachine();
 }
 
 void SystemCheck::appear()
@@ -50,8 +50,8 @@ void SystemCheck::appear()
     const int port = m_serverManager ? m_serverManager->port() : 2022;
     const QString address = net::chooseLocalIP(m_system.interfaces());
     m_items = {
-        { QStringLiteral("ssh_daemon"), QStringLiteral("Remote Login"),
-          QStringLiteral("Your Mac accepts secure connections") },
+        { QStringLiteral("ssh_daemon"), wording::sshCheckName(),
+          wording::acceptsSecureConnections() },
         { QStringLiteral("ssh_dir"), QStringLiteral("SSH Keys"),
           QStringLiteral("Ready to authenticate") },
         { QStringLiteral("etserver"), QStringLiteral("Quivra Server"),
@@ -153,9 +153,7 @@ void SystemCheck::checkSsh(std::function<void(Item)> done)
     auto *probe = new SshProbe(m_sshHost, m_sshPort, this);
     probe->probe(this, [probe, done = std::move(done)](bool accepting) {
         probe->deleteLater();
-        done(accepting
-                 ? passed
-                 : failed(QStringLiteral("Remote Login is disabled"), prompts::remoteLogin()));
+        done(accepting ? passed : failed(wording::sshNotRunningShort(), prompts::remoteLogin()));
     });
 }
 
@@ -187,6 +185,9 @@ void SystemCheck::checkServer(std::function<void(Item)> done)
             return report(passed);
         const ServerFailure failure = m_serverManager->lastFailure();
         const int port = m_serverManager->port();
+        if (failure.kind == ServerFailure::NotInstalled)
+            return report(failed(QStringLiteral("Eternal Terminal is not installed"),
+                                 prompts::etserverMissing()));
         if (failure.kind == ServerFailure::PortInUse)
             return report(
                 failed(QStringLiteral("Port %1 is in use").arg(port), prompts::portInUse(port)));

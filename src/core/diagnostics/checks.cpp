@@ -2,6 +2,7 @@
 
 #include "net/hostlabel.h"
 #include "platform/systeminfo.h"
+#include "platform/wording.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -16,30 +17,25 @@ DiagnosticSystem DiagnosticSystem::real()
 
 namespace checks {
 
-const QString remoteLoginDisabled = QStringLiteral(
-    "Remote Login is disabled. Enable it in System Settings \u2192 General \u2192 Sharing "
-    "\u2192 Remote Login");
-
 QList<DiagnosticCheck> fixedList()
 {
-    auto check = [](const char *id, const char *name, const char *description, bool canAutoFix,
-                    bool isCritical) {
-        return DiagnosticCheck { QString::fromUtf8(id),
-                                 QString::fromUtf8(name),
-                                 QString::fromUtf8(description),
-                                 {},
-                                 canAutoFix,
-                                 isCritical };
+    auto check = [](const char *id, const QString &name, const QString &description,
+                    bool canAutoFix, bool isCritical) {
+        return DiagnosticCheck {
+            QString::fromUtf8(id), name, description, {}, canAutoFix, isCritical
+        };
     };
     return {
-        check("ssh_daemon", "Remote Login", "SSH daemon is running and accepting connections",
-              false, true),
-        check("ssh_dir", "SSH Directory", "~/.ssh directory exists with correct permissions", true,
-              true),
-        check("auth_keys", "Authorized Keys", "SSH authorized_keys file is configured", true, true),
-        check("etserver", "Quivra Server", "Eternal Terminal server is running", true, true),
-        check("network", "Network", "Your Mac is accessible on the network", false, true),
-        check("tailscale", "Tailscale", "Connect from anywhere with Tailscale", false, false),
+        check("ssh_daemon", wording::sshCheckName(), wording::sshCheckDescription(), false, true),
+        check("ssh_dir", QStringLiteral("SSH Directory"),
+              QStringLiteral("~/.ssh directory exists with correct permissions"), true, true),
+        check("auth_keys", QStringLiteral("Authorized Keys"),
+              QStringLiteral("SSH authorized_keys file is configured"), true, true),
+        check("etserver", QStringLiteral("Quivra Server"),
+              QStringLiteral("Eternal Terminal server is running"), true, true),
+        check("network", QStringLiteral("Network"), wording::accessibleOnNetwork(), false, true),
+        check("tailscale", QStringLiteral("Tailscale"),
+              QStringLiteral("Connect from anywhere with Tailscale"), false, false),
     };
 }
 

@@ -44,6 +44,4 @@ DiagnosticStatus server(std::optional<bool> running);
 DiagnosticStatus network(const QList<net::InterfaceAddress> &addresses);
 DiagnosticStatus tailscale(const QList<net::InterfaceAddress> &addresses, bool installed);
 
-extern const QString remoteLoginDisabled;
-
 } // namespace checks

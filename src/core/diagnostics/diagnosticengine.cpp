@@ -1,6 +1,7 @@
 #include "diagnostics/diagnosticengine.h"
 
 #include "diagnostics/sshprobe.h"
+#include "platform/wording.h"
 
 DiagnosticEngine::DiagnosticEngine(ServerRunning serverRunning, std::shared_ptr<SshProbe> probe,
                                    DiagnosticSystem system, QObject *parent)
@@ -52,7 +53,7 @@ void DiagnosticEngine::runProbe(const QString &id,
     if (id == QLatin1String("ssh_daemon")) {
         m_probe->probe(this, [store](bool accepting) {
             store(accepting ? DiagnosticStatus::passed()
-                            : DiagnosticStatus::failed(checks::remoteLoginDisabled));
+                            : DiagnosticStatus::failed(wording::sshNotRunning()));
         });
     } else if (id == QLatin1String("ssh_dir")) {
         store(checks::sshDirectory(m_system.homeDirectory()));

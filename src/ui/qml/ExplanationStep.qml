@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 Item {
     id: step
@@ -83,7 +84,7 @@ Item {
             spacing: 20
             DeviceIcon { systemName: "iphone"; label: "iPhone" }
             ConnectionArrow { height: 80 }
-            DeviceIcon { systemName: "desktopcomputer"; label: "Mac" }
+            DeviceIcon { systemName: "desktopcomputer"; label: Wording.machineLabel }
         }
         Text {
             Layout.alignment: Qt.AlignHCenter
@@ -95,7 +96,7 @@ Item {
         Text {
             Layout.alignment: Qt.AlignHCenter
             horizontalAlignment: Text.AlignHCenter
-            text: "QuivraMac creates a resilient connection\nbetween your iPhone and this Mac."
+            text: Wording.explanationBody
             font.pixelSize: 15
             color: Theme.textSecondary
         }
@@ -104,7 +105,7 @@ Item {
             spacing: 10
             FeatureBullet { icon: "wifi"; text: "Survives WiFi switches and sleep" }
             FeatureBullet { icon: "arrow.clockwise"; text: "Reconnects automatically" }
-            FeatureBullet { icon: "menubar.rectangle"; text: "Runs invisibly in the menu bar" }
+            FeatureBullet { icon: "menubar.rectangle"; text: Wording.explanationTrayRow }
         }
         Row {
             Layout.alignment: Qt.AlignHCenter

@@ -83,6 +83,7 @@ ScrollView {
                     color: Theme.textSecondary
                 }
             }
+            InstallLink { visible: Ui.etserverMissing }
             FormRow {
                 label: "Uptime"
                 visible: ServerManager.isRunning

@@ -21,6 +21,13 @@ ThemedSurface {
             port: ServerManager.port
             onToggle: Ui.toggleServer()
         }
+        MenuRowButton {
+            objectName: "installEtRow"
+            visible: Ui.etserverMissing
+            title: "How to install Eternal Terminal\u2026"
+            symbol: "questionmark.circle"
+            onClicked: Ui.openWindow("installEt")
+        }
         Divider {}
         PairingSection {
             Layout.fillWidth: true

@@ -58,7 +58,7 @@ Item {
         Text {
             objectName: "connectedText"
             Layout.alignment: Qt.AlignHCenter
-            text: Onboarding.deviceName + " is now connected to this Mac."
+            text: Wording.connectedToThisMachine(Onboarding.deviceName)
             font.pixelSize: 15
             color: Theme.textSecondary
         }

@@ -83,12 +83,16 @@ Item {
                 SymbolImage { name: "exclamationmark.triangle.fill"; size: 18; color: Theme.yellow }
                 Text {
                     objectName: "failureMessage"
+                    // A distribution's install command makes this a sentence or two.
+                    width: cardContent.width - 28
+                    wrapMode: Text.Wrap
                     text: SystemCheck.failedMessage
                     font.pixelSize: 14
                     font.weight: Font.Medium
                     color: Theme.text
                 }
             }
+            InstallLink { visible: Ui.etserverMissing }
             AskClaudeCard { width: parent.width; prompt: SystemCheck.failedPrompt }
             AbstractButton {
                 id: retryButton

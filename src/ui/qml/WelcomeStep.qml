@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 Item {
     id: step
@@ -42,7 +43,7 @@ Item {
         Text {
             Layout.topMargin: 12
             Layout.alignment: Qt.AlignHCenter
-            text: "Your Mac, ready for Quivra."
+            text: Wording.welcomeTitle
             font.pixelSize: 17
             color: Theme.textSecondary
         }
@@ -50,7 +51,7 @@ Item {
             Layout.topMargin: 8
             Layout.alignment: Qt.AlignHCenter
             horizontalAlignment: Text.AlignHCenter
-            text: "This app runs quietly in your menu bar,\nkeeping your Mac connected to Quivra on iOS."
+            text: Wording.welcomeBody
             font.pixelSize: 15
             lineHeight: 1.2
             color: Theme.textSecondary

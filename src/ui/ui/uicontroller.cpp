@@ -22,9 +22,17 @@ UiController::UiController(ServerManager *serverManager, QObject *parent)
     , m_devices(serverManager ? &serverManager->devices() : nullptr)
 {
     userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
-    if (serverManager)
-        connect(serverManager, &ServerManager::localIPChanged, this,
-                &UiController::manualSetupDetailsChanged);
+    if (!serverManager)
+        return;
+    connect(serverManager, &ServerManager::localIPChanged, this,
+            &UiController::manualSetupDetailsChanged);
+    connect(serverManager, &ServerManager::lastFailureChanged, this,
+            &UiController::etserverMissingChanged);
+}
+
+bool UiController::etserverMissing() const
+{
+    return m_serverManager && m_serverManager->lastFailure().kind == ServerFailure::NotInstalled;
 }
 
 bool UiController::autoStartServer() const

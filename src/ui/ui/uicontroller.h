@@ -22,6 +22,8 @@ class UiController : public QObject
     Q_PROPERTY(DeviceList *devices READ devices CONSTANT)
     // The settings tab the settings window shows when it opens.
     Q_PROPERTY(int settingsTab READ settingsTab NOTIFY settingsTabRequested)
+    // The last start found no etserver: the views offer the steps to install it.
+    Q_PROPERTY(bool etserverMissing READ etserverMissing NOTIFY etserverMissingChanged)
 
 public:
     explicit UiController(ServerManager *serverManager, QObject *parent = nullptr);
@@ -35,6 +37,7 @@ public:
     QString manualSetupDetails() const;
     DeviceList *devices() { return &m_devices; }
     int settingsTab() const { return m_settingsTab; }
+    bool etserverMissing() const;
 
     enum SettingsTab { GeneralTab, LogsTab, DevicesTab };
     Q_ENUM(SettingsTab)
@@ -59,6 +62,7 @@ Q_SIGNALS:
     void manualSetupDetailsChanged();
     void windowRequested(const QString &id);
     void settingsTabRequested();
+    void etserverMissingChanged();
 
 private:
     QPointer<ServerManager> m_serverManager;

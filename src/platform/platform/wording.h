@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+
+// The texts that name this machine and its platform's services. macOS keeps the product's own
+// words; elsewhere the same sentences speak of a computer, its system tray and its SSH server.
+// Each platform's set lives in one file (wording_mac.cpp, wording_linux.cpp) so that the two can
+// be read side by side.
+namespace wording {
+
+// This machine as the user calls it: "Mac", "computer".
+QString machine();
+// The same as a label under its picture: "Mac", "Computer".
+QString machineLabel();
+
+QString welcomeTitle();
+QString welcomeBody();
+QString explanationBody();
+QString explanationTrayRow();
+// "%1" is the phone's name.
+QString connectedToThisMachine();
+QString checkingMachine();
+QString acceptsSecureConnections();
+QString accessibleOnNetwork();
+// "%1" is the name of the network this machine is on.
+QString networkMismatch();
+QString connectionFailed();
+
+// The SSH server check, as the phone's report and the setup window name it.
+QString sshCheckName();
+QString sshCheckDescription();
+// Why it failed and what to do: the phone's report and the setup window show the same words.
+QString sshNotRunning();
+// The setup window's shorter form where the platform has one.
+QString sshNotRunningShort();
+QString sshRequestTitle();
+QString sshRequest();
+QString noNetworkRequest();
+
+// The one command that installs Eternal Terminal here, or nothing where there is no package.
+QString etserverInstallCommand();
+
+#ifndef Q_OS_MACOS
+// The same for a system described by os-release(5) text, in its own package manager's words.
+QString sshNotRunningOn(const QString &osRelease);
+QString etserverInstallCommandOn(const QString &osRelease);
+#endif
+
+} // namespace wording

@@ -1,0 +1,155 @@
+#include "platform/wording.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace wording {
+
+QString machine()
+{
+    return QStringLiteral("computer");
+}
+QString machineLabel()
+{
+    return QStringLiteral("Computer");
+}
+
+QString welcomeTitle()
+{
+    return QStringLiteral("Your computer, ready for Quivra.");
+}
+QString welcomeBody()
+{
+    return QStringLiteral("This app runs quietly in your system tray,\nkeeping your computer "
+                          "connected to Quivra on iOS.");
+}
+QString explanationBody()
+{
+    return QStringLiteral(
+        "QuivraMac creates a resilient connection\nbetween your iPhone and this computer.");
+}
+QString explanationTrayRow()
+{
+    return QStringLiteral("Runs invisibly in the system tray");
+}
+QString connectedToThisMachine()
+{
+    return QStringLiteral("%1 is now connected to this computer.");
+}
+QString checkingMachine()
+{
+    return QStringLiteral("Checking your computer...");
+}
+QString acceptsSecureConnections()
+{
+    return QStringLiteral("Your computer accepts secure connections");
+}
+QString accessibleOnNetwork()
+{
+    return QStringLiteral("Your computer is accessible on the network");
+}
+QString networkMismatch()
+{
+    return QStringLiteral(
+        "Your computer is on \"%1\". Make sure your iPhone is on the same network.");
+}
+QString connectionFailed()
+{
+    return QStringLiteral("Your iPhone couldn't reach this computer.");
+}
+
+QString sshCheckName()
+{
+    return QStringLiteral("SSH Server");
+}
+QString sshCheckDescription()
+{
+    return QStringLiteral("SSH server is running and accepting connections");
+}
+
+namespace {
+
+// ID names the system, ID_LIKE the ones it derives from ("ubuntu debian" for Linux Mint).
+QStringList family(const QString &osRelease)
+{
+    QStringList ids;
+    static const QRegularExpression field(QStringLiteral("^(ID|ID_LIKE)=\"?([^\"\\n]*)\"?$"),
+                                          QRegularExpression::MultilineOption);
+    for (auto it = field.globalMatch(osRelease); it.hasNext();)
+        ids += it.next().captured(2).toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return ids;
+}
+
+QString osRelease()
+{
+    QFile file(QStringLiteral("/etc/os-release"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        file.setFileName(QStringLiteral("/usr/lib/os-release"));
+        (void)file.open(QIODevice::ReadOnly);
+    }
+    return QString::fromUtf8(file.readAll());
+}
+
+} // namespace
+
+QString sshNotRunningOn(const QString &osRelease)
+{
+    const QString prefix = QStringLiteral("SSH server is not running. Install it with: ");
+    for (const QString &id : family(osRelease)) {
+        if (id == QLatin1String("debian") || id == QLatin1String("ubuntu"))
+            return prefix + QStringLiteral("sudo apt install openssh-server");
+        if (id == QLatin1String("fedora"))
+            return prefix
+                + QStringLiteral("sudo dnf install openssh-server && sudo systemctl enable --now "
+                                 "sshd");
+        if (id == QLatin1String("arch"))
+            return prefix
+                + QStringLiteral("sudo pacman -S openssh && sudo systemctl enable --now sshd");
+    }
+    return QStringLiteral("SSH server is not running. Install and start OpenSSH's sshd.");
+}
+
+QString etserverInstallCommandOn(const QString &osRelease)
+{
+    // Debian has no package: its users build from source, which the download page explains.
+    for (const QString &id : family(osRelease)) {
+        if (id == QLatin1String("ubuntu"))
+            return QStringLiteral(
+                "sudo add-apt-repository ppa:jgmath2000/et && sudo apt install et");
+        if (id == QLatin1String("fedora"))
+            return QStringLiteral("sudo dnf install et");
+        if (id == QLatin1String("arch"))
+            return QStringLiteral("yay -S eternalterminal");
+    }
+    return {};
+}
+
+QString sshNotRunning()
+{
+    return sshNotRunningOn(osRelease());
+}
+QString etserverInstallCommand()
+{
+    return etserverInstallCommandOn(osRelease());
+}
+QString sshNotRunningShort()
+{
+    return sshNotRunning();
+}
+QString sshRequestTitle()
+{
+    return QStringLiteral("SSH server is not running.");
+}
+QString sshRequest()
+{
+    return QStringLiteral("Help me install and start the SSH server on this computer so I can "
+                          "connect from my iPhone.");
+}
+QString noNetworkRequest()
+{
+    return QStringLiteral(
+        "Help me troubleshoot why my computer doesn't have a network connection.");
+}
+
+} // namespace wording

@@ -1,0 +1,93 @@
+#include "platform/wording.h"
+
+namespace wording {
+
+QString machine()
+{
+    return QStringLiteral("Mac");
+}
+QString machineLabel()
+{
+    return QStringLiteral("Mac");
+}
+
+QString welcomeTitle()
+{
+    return QStringLiteral("Your Mac, ready for Quivra.");
+}
+QString welcomeBody()
+{
+    return QStringLiteral(
+        "This app runs quietly in your menu bar,\nkeeping your Mac connected to Quivra on iOS.");
+}
+QString explanationBody()
+{
+    return QStringLiteral(
+        "QuivraMac creates a resilient connection\nbetween your iPhone and this Mac.");
+}
+QString explanationTrayRow()
+{
+    return QStringLiteral("Runs invisibly in the menu bar");
+}
+QString connectedToThisMachine()
+{
+    return QStringLiteral("%1 is now connected to this Mac.");
+}
+QString checkingMachine()
+{
+    return QStringLiteral("Checking your Mac...");
+}
+QString acceptsSecureConnections()
+{
+    return QStringLiteral("Your Mac accepts secure connections");
+}
+QString accessibleOnNetwork()
+{
+    return QStringLiteral("Your Mac is accessible on the network");
+}
+QString networkMismatch()
+{
+    return QStringLiteral("Your Mac is on \"%1\". Make sure your iPhone is on the same network.");
+}
+QString connectionFailed()
+{
+    return QStringLiteral("Your iPhone couldn't reach this Mac.");
+}
+
+QString sshCheckName()
+{
+    return QStringLiteral("Remote Login");
+}
+QString sshCheckDescription()
+{
+    return QStringLiteral("SSH daemon is running and accepting connections");
+}
+QString sshNotRunning()
+{
+    return QStringLiteral("Remote Login is disabled. Enable it in System Settings \u2192 General "
+                          "\u2192 Sharing \u2192 Remote Login");
+}
+QString sshNotRunningShort()
+{
+    return QStringLiteral("Remote Login is disabled");
+}
+QString sshRequestTitle()
+{
+    return QStringLiteral("Remote Login is disabled.");
+}
+QString sshRequest()
+{
+    return QStringLiteral("Help me enable Remote Login on this Mac so I can connect from my "
+                          "iPhone.");
+}
+QString noNetworkRequest()
+{
+    return QStringLiteral("Help me troubleshoot why my Mac doesn't have a network connection.");
+}
+
+QString etserverInstallCommand()
+{
+    return QStringLiteral("brew install MisterTea/et/et");
+}
+
+} // namespace wording

@@ -1,0 +1,99 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QuivraMac.Ui
+
+ThemedSurface {
+    id: sheet
+    objectName: "installEtSheet"
+    signal done()
+    readonly property string command: Wording.etserverInstallCommand
+    readonly property string downloadPage: "https://eternalterminal.dev/download/"
+    implicitWidth: 460
+    implicitHeight: column.implicitHeight + 48
+
+    ColumnLayout {
+        id: column
+        x: 24
+        y: 24
+        width: sheet.width - 48
+        spacing: 14
+
+        Text {
+            text: "Install Eternal Terminal"
+            font.pixelSize: 17
+            font.weight: Font.DemiBold
+            color: Theme.text
+        }
+        Text {
+            Layout.fillWidth: true
+            wrapMode: Text.Wrap
+            text: "QuivraMac keeps your iPhone's sessions alive with Eternal Terminal's etserver, "
+                + "which you install once. QuivraMac finds it on your PATH."
+            font.pixelSize: 13
+            color: Theme.textSecondary
+        }
+        Text {
+            Layout.fillWidth: true
+            wrapMode: Text.Wrap
+            text: sheet.command
+                ? "1. Run this in a terminal:"
+                : "1. Build and install it from source, as the download page describes."
+            font.pixelSize: 13
+            color: Theme.text
+        }
+        RowLayout {
+            visible: sheet.command !== ""
+            Layout.fillWidth: true
+            spacing: 8
+            Rectangle {
+                Layout.fillWidth: true
+                implicitHeight: commandText.implicitHeight + 16
+                radius: 6
+                color: Theme.card
+                TextEdit {
+                    id: commandText
+                    objectName: "installCommand"
+                    x: 8
+                    y: 8
+                    width: parent.width - 16
+                    wrapMode: TextEdit.Wrap
+                    readOnly: true
+                    selectByMouse: true
+                    text: sheet.command
+                    font.family: Theme.monospace
+                    font.pixelSize: 12
+                    color: Theme.text
+                }
+            }
+            Button {
+                objectName: "copyInstallCommand"
+                text: "Copy"
+                onClicked: Ui.copyText(sheet.command)
+            }
+        }
+        Text {
+            Layout.fillWidth: true
+            wrapMode: Text.Wrap
+            text: "2. Choose Start Server in the QuivraMac panel."
+            font.pixelSize: 13
+            color: Theme.text
+        }
+        RowLayout {
+            Layout.topMargin: 6
+            Layout.fillWidth: true
+            Button {
+                objectName: "openDownloadPage"
+                text: "Open Download Page"
+                onClicked: Qt.openUrlExternally(sheet.downloadPage)
+            }
+            Item { Layout.fillWidth: true }
+            Button {
+                objectName: "installDone"
+                text: "Done"
+                highlighted: true
+                onClicked: sheet.done()
+            }
+        }
+    }
+}
