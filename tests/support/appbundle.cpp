@@ -4,10 +4,12 @@
 
 namespace testsupport {
 
-AppBundle::AppBundle()
+AppBundle::AppBundle(Contents contents)
+    : m_contents(contents)
 {
     QFile::copy(QStringLiteral(QUIVRA_APP_EXECUTABLE), filePath("quivramac"));
-    QFile::copy(fakeEtserverPath(), filePath("etserver"));
+    if (contents == WithServer)
+        QFile::copy(fakeEtserverPath(), filePath("etserver"));
     for (const char *name : { "quivramac", "etserver" })
         QFile::setPermissions(filePath(name), QFile::ExeOwner | QFile::ReadOwner);
 }
@@ -22,6 +24,11 @@ void AppBundle::launch()
     m_output.clear();
     m_app = std::make_unique<QProcess>();
     m_app->setProcessChannelMode(QProcess::MergedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("FAKE_ETSERVER_BIND", "1");
+    if (m_contents == WithoutServer)
+        environment.insert("PATH", m_folder.path());
+    m_app->setProcessEnvironment(environment);
     QObject::connect(m_app.get(), &QProcess::readyRead, [this] { m_output += m_app->readAll(); });
     m_app->start(filePath("quivramac"), {});
     m_app->waitForStarted();

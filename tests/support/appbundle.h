@@ -8,11 +8,14 @@
 namespace testsupport {
 
 // The real quivramac executable in a folder of its own with the fake etserver beside it, where
-// the app looks first; launched with its output collected.
+// the app looks first; launched with its output collected. The fake binds its port, as the real
+// server does.
 class AppBundle
 {
 public:
-    AppBundle();
+    enum Contents { WithServer, WithoutServer };
+    // WithoutServer also keeps the app from finding one on the PATH.
+    explicit AppBundle(Contents contents = WithServer);
     ~AppBundle();
 
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
@@ -28,6 +31,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    Contents m_contents;
     std::unique_ptr<QProcess> m_app;
     QByteArray m_output;
 };

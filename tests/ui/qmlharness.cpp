@@ -25,7 +25,7 @@ void prepareQuick()
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 }
 
-QmlHarness::QmlHarness()
+QmlHarness::QmlHarness(const std::function<void(ServerEnvironment &)> &adjust)
 {
     userdefaults::setValue(QStringLiteral("autoStartServer"), false);
     ServerEnvironment env = environment(m_processes);
@@ -36,6 +36,8 @@ QmlHarness::QmlHarness()
     };
     env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
     PairingCountdown::manualTicks(true);
+    if (adjust)
+        adjust(env);
     m_manager = std::make_unique<ServerManager>(std::move(env));
     m_app = std::make_unique<QuivraMacApp>();
     m_sshd.listen(QHostAddress::LocalHost);

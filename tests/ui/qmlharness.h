@@ -24,7 +24,8 @@ namespace testsupport {
 class QmlHarness
 {
 public:
-    QmlHarness();
+    // `adjust` changes the machine the manager sees before it is made.
+    explicit QmlHarness(const std::function<void(ServerEnvironment &)> &adjust = {});
     ~QmlHarness();
 
     ServerManager &manager() { return *m_manager; }

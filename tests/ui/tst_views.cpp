@@ -45,6 +45,24 @@ private Q_SLOTS:
             QVERIFY2(titles.contains(title), title);
     }
 
+    void panelAndSettingsSayWhyTheServerIsOff()
+    {
+        m_harness.reset();
+        m_harness = std::make_unique<testsupport::QmlHarness>(
+            [](ServerEnvironment &env) { env.locateExecutable = [] { return QString(); }; });
+        h().show("MenuBarView");
+        QVERIFY(!h().find<QQuickItem>("serverReason")->isVisible());
+        h().manager().startServer();
+        const QString reason = "Eternal Terminal (etserver) is not installed";
+        QCOMPARE(text("serverReason"), reason);
+        QVERIFY(h().find<QQuickItem>("serverReason")->isVisible());
+        QCOMPARE(text("serverStatus"), "Server off");
+        h().show("SettingsView");
+        QCOMPARE(text("statusReason"), reason);
+        QVERIFY(h().find<QQuickItem>("statusReason")->isVisible());
+        QVERIFY(h().visibleTexts().contains(reason));
+    }
+
     void pairingShowsOneBoxPerCharacter()
     {
         QVERIFY(h().show("MenuBarView"));

@@ -83,6 +83,17 @@ ScrollView {
                     color: Theme.textSecondary
                 }
             }
+            Text {
+                objectName: "statusReason"
+                Layout.fillWidth: true
+                Layout.topMargin: -6
+                visible: text !== ""
+                text: ServerManager.failureReason
+                horizontalAlignment: Text.AlignRight
+                wrapMode: Text.Wrap
+                font.pixelSize: 11
+                color: Theme.textSecondary
+            }
             FormRow {
                 label: "Uptime"
                 visible: ServerManager.isRunning

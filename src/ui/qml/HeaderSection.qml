@@ -2,11 +2,12 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// Status line with the server switch.
+// Status line with the server switch, and why the server is not running when something keeps it.
 RowLayout {
     id: header
     property bool isRunning
     property int port
+    property string failureReason
     signal toggle()
 
     spacing: 8
@@ -19,6 +20,7 @@ RowLayout {
     }
     ColumnLayout {
         spacing: 1
+        Layout.fillWidth: true
         Text {
             text: "QuivraMac"
             font.pixelSize: 13
@@ -31,8 +33,18 @@ RowLayout {
             font.pixelSize: 11
             color: Theme.textSecondary
         }
+        Text {
+            objectName: "serverReason"
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: header.failureReason
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            font.pixelSize: 10
+            color: Theme.textSecondary
+        }
     }
-    Item { Layout.fillWidth: true }
     Switch {
         objectName: "serverSwitch"
         palette.window: Theme.knob
