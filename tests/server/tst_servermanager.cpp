@@ -90,6 +90,7 @@ private Q_SLOTS:
         QCOMPARE(manager.logs(), "[QuivraMac] Error: etserver binary not found in app bundle\n");
         QCOMPARE(console.lines(), QStringList { "Error: etserver not found in bundle" });
         QCOMPARE(manager.lastFailure().kind, ServerFailure::NotInstalled);
+        QCOMPARE(manager.failureReason(), "Eternal Terminal (etserver) is not installed");
     }
 
     void restartStopsFirstAndIgnoresOldExitNotice()

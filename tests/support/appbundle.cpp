@@ -4,12 +4,10 @@
 
 namespace testsupport {
 
-AppBundle::AppBundle(Contents contents)
-    : m_contents(contents)
+AppBundle::AppBundle()
 {
     QFile::copy(QStringLiteral(QUIVRA_APP_EXECUTABLE), filePath("quivramac"));
-    if (contents == WithServer)
-        QFile::copy(fakeEtserverPath(), filePath("etserver"));
+    QFile::copy(fakeEtserverPath(), filePath("etserver"));
     for (const char *name : { "quivramac", "etserver" })
         QFile::setPermissions(filePath(name), QFile::ExeOwner | QFile::ReadOwner);
 }
@@ -26,8 +24,6 @@ void AppBundle::launch()
     m_app->setProcessChannelMode(QProcess::MergedChannels);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("FAKE_ETSERVER_BIND", "1");
-    if (m_contents == WithoutServer)
-        environment.insert("PATH", m_folder.path());
     m_app->setProcessEnvironment(environment);
     QObject::connect(m_app.get(), &QProcess::readyRead, [this] { m_output += m_app->readAll(); });
     m_app->start(filePath("quivramac"), {});

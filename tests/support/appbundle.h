@@ -13,9 +13,7 @@ namespace testsupport {
 class AppBundle
 {
 public:
-    enum Contents { WithServer, WithoutServer };
-    // WithoutServer also keeps the app from finding one on the PATH.
-    explicit AppBundle(Contents contents = WithServer);
+    AppBundle();
     ~AppBundle();
 
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
@@ -31,7 +29,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    Contents m_contents;
     std::unique_ptr<QProcess> m_app;
     QByteArray m_output;
 };
