@@ -20,7 +20,6 @@ RowLayout {
     }
     ColumnLayout {
         spacing: 1
-        Layout.fillWidth: true
         Text {
             text: "QuivraMac"
             font.pixelSize: 13
@@ -33,18 +32,21 @@ RowLayout {
             font.pixelSize: 11
             color: Theme.textSecondary
         }
+        // One line: the panel sizes itself to its content. The alignment is set because an empty
+        // text would otherwise ask the input method for its direction, which crashes Qt's
+        // Wayland client on a seat without a keyboard.
         Text {
             objectName: "serverReason"
-            Layout.fillWidth: true
+            Layout.maximumWidth: 210
             visible: text !== ""
             text: header.failureReason
-            wrapMode: Text.Wrap
-            maximumLineCount: 2
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             font.pixelSize: 10
             color: Theme.textSecondary
         }
     }
+    Item { Layout.fillWidth: true }
     Switch {
         objectName: "serverSwitch"
         palette.window: Theme.knob
