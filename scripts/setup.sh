@@ -19,6 +19,8 @@ packages=(
     avahi-utils openssh-server openssh-client iproute2 util-linux curl xvfb xauth
     # tests of the desktop: a headless Wayland compositor, an X11 tray, X11 windows from outside
     weston trayer xdotool
+    # tests with the real Eternal Terminal (../shared/et, never shipped): its runtime libraries
+    libprotobuf32 libsodium23 libunwind8 libutempter0 libssl3 libbrotli1
 )
 
 missing=()

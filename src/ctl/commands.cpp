@@ -6,11 +6,15 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QTcpSocket>
 #include <QTextStream>
 #include <QTimer>
 
@@ -31,6 +35,9 @@ QTextStream &err()
     static QTextStream stream(stderr);
     return stream;
 }
+
+// How long start waits for the server to accept connections.
+constexpr qint64 startDeadlineMs = 5000;
 
 int failedCall(const ControlClient &client)
 {
@@ -65,9 +72,11 @@ int status(ControlClient &client, bool json)
     }
     const bool running = client.property("isRunning").toBool();
     const QString device = client.property("lastPairedDevice").toString();
+    const QString reason = client.property("failureReason").toString();
     out() << "Server:       "
           << (running ? "running, up " + duration(client.property("uptime").toInt())
                       : QStringLiteral("stopped"))
+          << (reason.isEmpty() ? QString() : "\nReason:       " + reason)
           << "\nPort:         " << client.property("port").toInt()
           << "\nAddress:      " << client.property("localIP").toString()
           << "\nPairing:      " << (client.property("isPairing").toBool() ? "on" : "off")
@@ -79,11 +88,37 @@ int start(ControlClient &client)
 {
     if (!client.call(QStringLiteral("StartServer")))
         return failedCall(client);
-    const bool running = client.property("isRunning").toBool();
-    (running ? out() : err()) << (running ? "Server running"
-                                          : "The server did not start; see quivractl logs")
-                              << Qt::endl;
-    return running ? Success : Failed;
+    // Launched is not yet serving: a server that cannot bind its port dies moments later.
+    const int port = client.property("port").toInt();
+    QElapsedTimer waited;
+    waited.start();
+    bool running = client.property("isRunning").toBool();
+    bool accepting = false;
+    while (running && !accepting && waited.elapsed() < startDeadlineMs) {
+        QTcpSocket probe;
+        probe.connectToHost(QHostAddress::LocalHost, quint16(port));
+        accepting = probe.waitForConnected(100);
+        if (!accepting) {
+            // A refusal comes at once; the pause keeps the polling light.
+            QEventLoop pause;
+            QTimer::singleShot(100, &pause, &QEventLoop::quit);
+            pause.exec();
+        }
+        running = client.property("isRunning").toBool();
+    }
+    if (accepting && running) {
+        out() << "Server running, accepting connections on port " << port << Qt::endl;
+        return Success;
+    }
+    const QString reason = client.property("failureReason").toString();
+    if (!running)
+        err() << "The server did not start: "
+              << (reason.isEmpty() ? QStringLiteral("it stopped; see quivractl logs") : reason)
+              << Qt::endl;
+    else
+        err() << "The server is running but port " << port << " did not accept connections within "
+              << startDeadlineMs / 1000 << " s; see quivractl logs" << Qt::endl;
+    return Failed;
 }
 
 int stop(ControlClient &client)
@@ -97,8 +132,14 @@ int stop(ControlClient &client)
 int pair(ControlClient &client)
 {
     if (!client.property("isRunning").toBool()) {
-        err() << "The server is not running, so no phone can pair. Start it with: quivractl start"
-              << Qt::endl;
+        // Sending the user to a start that fails for the same reason would go round in circles.
+        const QString reason = client.property("failureReason").toString();
+        if (reason.isEmpty())
+            err() << "The server is not running, so no phone can pair. Start it with: quivractl "
+                     "start";
+        else
+            err() << "The server is not running (" << reason << "), so no phone can pair.";
+        err() << Qt::endl;
         return Failed;
     }
     const QString before = client.property("lastPairedDevice").toString();

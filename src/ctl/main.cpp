@@ -14,8 +14,10 @@ struct Command
 };
 
 constexpr Command commandList[] = {
-    { "status", "Show the server, its address, pairing mode and the last paired phone." },
-    { "start", "Start the Quivra server." },
+    { "status",
+      "Show the server (and why it is not running), its address, pairing mode and the last "
+      "paired phone." },
+    { "start", "Start the Quivra server and wait until it accepts connections (at most 5 s)." },
     { "stop", "Stop the Quivra server." },
     { "pair", "Switch pairing mode on, show the code and wait for a phone to pair." },
     { "logs", "Print the app's log." },

@@ -97,7 +97,9 @@ private Q_SLOTS:
         app.call("StopServer");
         QVERIFY(!app.property("isRunning").toBool());
         QVERIFY(quivractl({ "status" }).second.contains("Server:       stopped"));
-        QCOMPARE(quivractl({ "start" }).first, 0);
+        const auto [code, started] = quivractl({ "start" });
+        QCOMPARE(code, 0);
+        QCOMPARE(started.trimmed(), "Server running, accepting connections on port 2022");
         QVERIFY(app.property("isRunning").toBool());
 
         QDBusConnection::sessionBus().connect(

@@ -52,23 +52,7 @@ ip addr add 192.0.2.10/24 dev eth0
 ip link set eth0 up && ip link set eth1 up
 
 step "a real OpenSSH server on 127.0.0.1:22"
-export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share
-mkdir -p "$HOME/.ssh" /run/sshd
-chmod 700 "$HOME/.ssh" && touch "$HOME/.ssh/authorized_keys" && chmod 600 "$HOME/.ssh/authorized_keys"
-ssh-keygen -q -t ed25519 -N '' -f "$work/host_key"
-cat >"$work/sshd_config" <<CONFIG
-Port 22
-ListenAddress 127.0.0.1
-HostKey $work/host_key
-PidFile $work/sshd.pid
-AuthorizedKeysFile $HOME/.ssh/authorized_keys
-StrictModes no
-UsePAM no
-PasswordAuthentication no
-KbdInteractiveAuthentication no
-PermitRootLogin prohibit-password
-CONFIG
-/usr/sbin/sshd -f "$work/sshd_config" -E "$work/sshd.log"
+start_sshd
 trap 'kill $(cat "$work/sshd.pid") 2>/dev/null; [ -n "${app_pid:-}" ] && kill "$app_pid" 2>/dev/null; wait' EXIT
 
 step "the real quivramac with the fake etserver beside it"

@@ -1,7 +1,9 @@
 // A stand-in for Eternal Terminal's etserver, for the tests only. It behaves as the real one does
 // with the app's command line: runs in the foreground, writes everything to standard output a line
 // at a time, dies silently on SIGTERM, exits with code 2 on SIGINT, and aborts shortly after
-// failing to bind a taken port. What else it does is chosen by FAKE_ETSERVER_* variables.
+// failing to bind a taken port. What else it does is chosen by FAKE_ETSERVER_* variables;
+// FAKE_ETSERVER_CRASHES=N makes the first N starts with the same log folder abort at once, as a
+// server crashing on every start does.
 #include <arpa/inet.h>
 #include <csignal>
 #include <cstdio>
@@ -49,6 +51,16 @@ void say(const std::string &bytes)
     ::write(STDOUT_FILENO, bytes.data(), bytes.size());
 }
 
+// Counts this start in the log folder; true while it is one of the first `crashes`.
+bool crashesThisTime(const std::string &logdir, long crashes)
+{
+    const std::string counter = logdir + "/fake-etserver-starts";
+    long starts = 0;
+    std::ifstream(counter) >> starts;
+    std::ofstream(counter) << ++starts << "\n";
+    return starts <= crashes;
+}
+
 bool argumentsAreExact(int argc, char **argv, int &port, std::string &pidfile)
 {
     if (argc != 12)
@@ -82,6 +94,12 @@ int main(int argc, char **argv)
     if (!argumentsAreExact(argc, argv, port, pidfile)) {
         say("fake etserver: unexpected arguments\n");
         return 64;
+    }
+    if (const char *crashes = setting("FAKE_ETSERVER_CRASHES")) {
+        if (crashesThisTime(argv[6], std::atol(crashes))) {
+            say("[FATAL etserver-main] crashing as scheduled\n");
+            std::abort();
+        }
     }
     std::signal(SIGINT, onInterrupt);
     if (setting("FAKE_ETSERVER_IGNORE_TERM"))

@@ -115,6 +115,22 @@ private Q_SLOTS:
         QVERIFY(!manager->logs().contains(QString::number(lookalike)));
     }
 
+    void handStartedServerSurvives()
+    {
+        // A real etserver by name, of this user, but started for something else.
+        QTemporaryDir elsewhere;
+        const qint64 own = startDetached(testsupport::fakeEtserverPath(),
+                                         testsupport::etserverArguments(elsewhere.path()));
+        QVERIFY(own > 0);
+        QVERIFY(QTest::qWaitFor([&] { return m_processes->isOwnServer(own); }, 5000));
+        const auto manager = construct();
+        QVERIFY(m_processes->exists(own));
+        QVERIFY(!m_processes->refused().contains(own));
+        QVERIFY(!manager->logs().contains(QString::number(own)));
+        manager->stopServerForQuit();
+        QVERIFY(m_processes->exists(own));
+    }
+
     void unusablePidFilesSignalNothing_data()
     {
         QTest::addColumn<QByteArray>("content");

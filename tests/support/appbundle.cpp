@@ -22,6 +22,9 @@ void AppBundle::launch()
     m_output.clear();
     m_app = std::make_unique<QProcess>();
     m_app->setProcessChannelMode(QProcess::MergedChannels);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("FAKE_ETSERVER_BIND", "1");
+    m_app->setProcessEnvironment(environment);
     QObject::connect(m_app.get(), &QProcess::readyRead, [this] { m_output += m_app->readAll(); });
     m_app->start(filePath("quivramac"), {});
     m_app->waitForStarted();

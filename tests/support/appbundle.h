@@ -8,7 +8,8 @@
 namespace testsupport {
 
 // The real quivramac executable in a folder of its own with the fake etserver beside it, where
-// the app looks first; launched with its output collected.
+// the app looks first; launched with its output collected. The fake binds its port, as the real
+// server does.
 class AppBundle
 {
 public:

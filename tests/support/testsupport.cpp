@@ -62,6 +62,8 @@ ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes)
     env.uptimeInterval = std::chrono::milliseconds(20);
     env.pairingPort = 0;
     env.advertise = false;
+    env.steadyNow = ManualClock().clock();
+    env.longestSleep = std::chrono::milliseconds(5);
     return env;
 }
 

@@ -38,8 +38,24 @@ QString fakeEtserverPath();
 // The exact arguments the app gives etserver, for starting look-alike orphans.
 QStringList etserverArguments(const QString &supportDirectory);
 
+// A steady clock that moves only when the test moves it.
+class ManualClock
+{
+public:
+    ClockTimer::Clock clock() const
+    {
+        return [offset = m_offset] { return std::chrono::steady_clock::time_point {} + *offset; };
+    }
+    void advance(std::chrono::milliseconds by) { *m_offset += by; }
+
+private:
+    std::shared_ptr<std::chrono::milliseconds> m_offset =
+        std::make_shared<std::chrono::milliseconds>(std::chrono::hours(1));
+};
+
 // The real machine, except: the fake etserver, the guarded process table, a 20 ms uptime tick, a
-// pairing port the system chooses and no DNS-SD advertisement.
+// pairing port the system chooses, no DNS-SD advertisement, and restarts and port checks on a
+// clock that stands still unless a test swaps in a ManualClock it moves.
 ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes);
 
 // A loopback port that refuses connections for as long as holder lives.

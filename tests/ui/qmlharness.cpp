@@ -25,12 +25,10 @@ void prepareQuick()
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 }
 
-QmlHarness::QmlHarness(Etserver etserver)
+QmlHarness::QmlHarness(const std::function<void(ServerEnvironment &)> &adjust)
 {
     userdefaults::setValue(QStringLiteral("autoStartServer"), false);
     ServerEnvironment env = environment(m_processes);
-    if (etserver == WithoutEtserver)
-        env.locateExecutable = [] { return QString(); };
     env.localIP = [] { return QStringLiteral("192.168.1.20"); };
     env.diagnostics.interfaces = [] {
         return QList<net::InterfaceAddress> { { "lo", true, "127.0.0.1" },
@@ -38,6 +36,8 @@ QmlHarness::QmlHarness(Etserver etserver)
     };
     env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
     PairingCountdown::manualTicks(true);
+    if (adjust)
+        adjust(env);
     m_manager = std::make_unique<ServerManager>(std::move(env));
     m_app = std::make_unique<QuivraMacApp>();
     m_sshd.listen(QHostAddress::LocalHost);

@@ -25,8 +25,13 @@ namespace testsupport {
 class QmlHarness
 {
 public:
-    enum Etserver { WithEtserver, WithoutEtserver };
-    explicit QmlHarness(Etserver etserver = WithEtserver);
+    // `adjust` changes the machine the manager sees before it is made.
+    explicit QmlHarness(const std::function<void(ServerEnvironment &)> &adjust = {});
+    // A machine where etserver is nowhere to be found.
+    static void withoutEtserver(ServerEnvironment &env)
+    {
+        env.locateExecutable = [] { return QString(); };
+    }
     ~QmlHarness();
 
     ServerManager &manager() { return *m_manager; }

@@ -142,7 +142,7 @@ int missingEtserverShots(const QDir &out)
     int failures = 0;
     for (const bool dark : { false, true }) {
         const QString scheme = dark ? "-dark.png" : "-light.png";
-        QmlHarness h(QmlHarness::WithoutEtserver);
+        QmlHarness h(QmlHarness::withoutEtserver);
         h.setDark(dark);
         QDir().mkpath(ssh);
         QFile::setPermissions(ssh, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

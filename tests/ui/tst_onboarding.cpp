@@ -220,7 +220,7 @@ private Q_SLOTS:
     void missingEtserverIsNamedWithItsRequest()
     {
         m_harness =
-            std::make_unique<testsupport::QmlHarness>(testsupport::QmlHarness::WithoutEtserver);
+            std::make_unique<testsupport::QmlHarness>(testsupport::QmlHarness::withoutEtserver);
         makeSshDirectory(owner);
         SystemCheck &check = h().systemCheck();
         check.appear();

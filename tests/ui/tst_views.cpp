@@ -112,19 +112,27 @@ private Q_SLOTS:
         QVERIFY(!h().manager().isRunning());
     }
 
-    void missingEtserverOffersItsInstallSteps()
+    void missingEtserverIsExplainedWithItsInstallSteps()
     {
+        m_harness.reset();
         m_harness =
-            std::make_unique<testsupport::QmlHarness>(testsupport::QmlHarness::WithoutEtserver);
+            std::make_unique<testsupport::QmlHarness>(testsupport::QmlHarness::withoutEtserver);
         h().show("MenuBarView");
+        QVERIFY(!h().find<QQuickItem>("serverReason")->isVisible());
         QVERIFY(!h().find<QQuickItem>("installEtRow")->isVisible());
         h().manager().startServer();
-        QTRY_VERIFY(h().find<QQuickItem>("installEtRow")->isVisible());
+        const QString reason = "Eternal Terminal (etserver) is not installed";
+        QCOMPARE(text("serverReason"), reason);
+        QVERIFY(h().find<QQuickItem>("serverReason")->isVisible());
+        QCOMPARE(text("serverStatus"), "Server off");
+        QVERIFY(h().find<QQuickItem>("installEtRow")->isVisible());
         QSignalSpy requested(&h().ui(), &UiController::windowRequested);
         click("installEtRow");
         QCOMPARE(requested.value(0).value(0).toString(), "installEt");
 
         h().show("SettingsView");
+        QCOMPARE(text("statusReason"), reason);
+        QVERIFY(h().find<QQuickItem>("statusReason")->isVisible());
         QVERIFY(h().find<QQuickItem>("installEtLink")->isVisible());
         h().show("InstallEtSheet");
         QVERIFY(h().visibleTexts().contains("2. Choose Start Server in the QuivraMac panel."));

@@ -127,6 +127,11 @@ qlonglong ServerManagerAdaptor::pairingExpiresAt() const
     return m_manager->pairingExpiresAt();
 }
 
+QString ServerManagerAdaptor::failureReason() const
+{
+    return m_manager->failureReason();
+}
+
 QString ServerManagerAdaptor::Devices() const
 {
     QJsonArray list;

@@ -40,6 +40,7 @@ class ServerManagerAdaptor : public QDBusAbstractAdaptor
     Q_PROPERTY(QString logs READ logs)
     Q_PROPERTY(QString lastPairedDevice READ lastPairedDevice)
     Q_PROPERTY(qlonglong pairingExpiresAt READ pairingExpiresAt)
+    Q_PROPERTY(QString failureReason READ failureReason)
 
 public:
     explicit ServerManagerAdaptor(ServerManager *manager);
@@ -53,6 +54,7 @@ public:
     QString logs() const;
     QString lastPairedDevice() const;
     qlonglong pairingExpiresAt() const;
+    QString failureReason() const;
 
 public Q_SLOTS:
     void StartServer();

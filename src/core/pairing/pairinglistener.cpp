@@ -34,7 +34,9 @@ PairingListener::PairingListener(Setup setup, QObject *parent)
                 Q_EMIT advertised(name);
             });
     connect(&m_advertiser, &platform::DnsSdAdvertiser::failed, this, [](const QString &error) {
-        qCInfo(lcConsole).nospace().noquote() << "PairingListener advertisement failed: " << error;
+        qCInfo(lcConsole).nospace().noquote()
+            << "PairingListener advertisement lost (" << error << "); registering again once "
+            << "the DNS-SD daemon answers";
     });
 }
 
@@ -65,8 +67,8 @@ void PairingListener::start(quint16 port, bool advertise)
         && !m_advertiser.advertise(name, QStringLiteral("_quivra-terminal._tcp"), m_port)) {
         advertising = false;
         qCInfo(lcConsole).nospace().noquote()
-            << QStringLiteral("PairingListener not advertised (%1); phones must be given "
-                              "this computer's address by hand")
+            << QStringLiteral("PairingListener not advertised yet (%1); asking the DNS-SD "
+                              "daemon again every second")
                    .arg(m_advertiser.errorString());
     }
     qCInfo(lcConsole).nospace().noquote()

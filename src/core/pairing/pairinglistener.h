@@ -45,6 +45,9 @@ public:
     void start(quint16 port, bool advertise = true);
     void stop();
     bool isListening() const { return m_server.isListening(); }
+    // Why the last start could not listen; start() may be called again to retry.
+    QAbstractSocket::SocketError serverError() const { return m_server.serverError(); }
+    QString errorString() const { return m_server.errorString(); }
     quint16 port() const { return m_port; }
     // How long a connection may take to send its request (tests shorten it).
     void setReadDeadline(std::chrono::milliseconds deadline) { m_readDeadline = deadline; }

@@ -21,7 +21,7 @@ void OrphanReaper::cleanup()
     bool found = false;
     if (QFile::exists(m_pidFile)) {
         if (const auto pid = processids::readPidFile(m_pidFile)) {
-            if (m_processes->exists(*pid) && m_processes->isOwnServer(*pid)) {
+            if (m_processes->exists(*pid) && isAppServer(*pid)) {
                 qCInfo(lcLog).nospace().noquote()
                     << QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)")
                            .arg(*pid);
@@ -43,7 +43,7 @@ void OrphanReaper::cleanup()
 
 void OrphanReaper::kill(qint32 pid)
 {
-    if (!m_processes->exists(pid) || !m_processes->isOwnServer(pid))
+    if (!m_processes->exists(pid) || !isAppServer(pid))
         return;
     qCInfo(lcConsole).nospace().noquote()
         << QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(pid);
@@ -70,16 +70,28 @@ QList<qint32> OrphanReaper::find() const
     const QList<qint32> listed = processids::parseList(pgrep.readAllStandardOutput());
     // pgrep -f also lists every command line that merely contains the word.
     for (const qint32 pid : listed) {
-        if (m_processes->isOwnServer(pid))
+        if (isAppServer(pid))
             servers.append(pid);
     }
     return servers;
 }
 
+bool OrphanReaper::isAppServer(qint64 pid) const
+{
+    if (!m_processes->isOwnServer(pid))
+        return false;
+    const QStringList arguments = m_processes->arguments(pid);
+    for (qsizetype i = 1; i + 1 < arguments.size(); ++i) {
+        if (arguments.at(i) == QLatin1String("--pidfile") && arguments.at(i + 1) == m_pidFile)
+            return true;
+    }
+    return false;
+}
+
 void OrphanReaper::stopFromPidFile()
 {
     if (const auto pid = processids::readPidFile(m_pidFile)) {
-        if (m_processes->exists(*pid) && m_processes->isOwnServer(*pid)) {
+        if (m_processes->exists(*pid) && isAppServer(*pid)) {
             m_processes->signal(*pid, SIGTERM);
             for (int step = 0; step < 50 && m_processes->exists(*pid); ++step)
                 QThread::msleep(10);

@@ -5,6 +5,7 @@
 #include "pairing/pairingsession.h"
 #include "platform/bundlepaths.h"
 #include "platform/processtable.h"
+#include "server/clocktimer.h"
 
 #include <QString>
 
@@ -28,6 +29,10 @@ struct ServerEnvironment
     bool advertise = true;
     // Measures the pairing code's lifetime; tests move it forward.
     PairingSession::Clock now = std::chrono::system_clock::now;
+    // Measures the pauses before a restart and between checks of a taken port; tests move it,
+    // and shorten how long a pause sleeps before it looks at the clock again.
+    ClockTimer::Clock steadyNow = std::chrono::steady_clock::now;
+    std::chrono::milliseconds longestSleep = std::chrono::hours(1);
     // What the status report's checks read, and where the SSH daemon is probed.
     DiagnosticSystem diagnostics = DiagnosticSystem::real();
     QString sshHost = QStringLiteral("127.0.0.1");

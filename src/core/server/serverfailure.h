@@ -6,13 +6,26 @@
 // the status shown to the user build their reasons on.
 struct ServerFailure
 {
-    enum Kind { None, NotInstalled, LaunchFailed, PortInUse, Exited };
+    enum Kind { None, NotInstalled, LaunchFailed, PortInUse, FifoTaken, Exited };
 
     Kind kind = None;
-    // The child's exit code (Exited, PortInUse) or -1 when it never ran.
+    // The child's exit code (Exited, PortInUse), its signal when it crashed, or -1 when it
+    // never ran.
     int exitCode = -1;
     // The platform's words for a failed launch.
     QString detail {};
+    // exitCode is the number of the signal that ended the child.
+    bool crashed = false;
+    // It stopped too often to be started again by itself.
+    bool gaveUp = false;
 
     bool operator==(const ServerFailure &) const = default;
 };
+
+namespace serverfailure {
+
+// The reason in plain words, for the panel, the settings, quivractl and the session bus; empty
+// for None.
+QString describe(const ServerFailure &failure, int port, const QString &fifo);
+
+} // namespace serverfailure

@@ -2,18 +2,18 @@
 
 #include "platform/logging.h"
 #include "platform/userdefaults.h"
+#include "server/serverchecks.h"
 #include "server/serverlog.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
-namespace {
-const QString serverFifo = QStringLiteral("/tmp/et.fifo");
-}
-
 ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     : QObject(parent)
     , m_env(std::move(environment))
+    , m_restartTimer(m_env.steadyNow, m_env.longestSleep)
+    , m_portWatch(m_env.steadyNow, m_env.longestSleep)
+    , m_listenerRetry(m_env.steadyNow, m_env.longestSleep)
     , m_process(m_env.uptimeInterval)
     , m_orphans(m_env.processes, m_env.pgrepProgram, pidFilePath())
     , m_pairing(m_env.now)
@@ -27,6 +27,9 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     connect(&m_process, &ServerProcess::uptimeChanged, this, &ServerManager::uptimeChanged);
     connect(&m_process, &ServerProcess::output, this, &ServerManager::appendServerOutput);
     connect(&m_process, &ServerProcess::exited, this, &ServerManager::onServerExited);
+    connect(&m_restartTimer, &ClockTimer::timeout, this, &ServerManager::launchServer);
+    connect(&m_portWatch, &ClockTimer::timeout, this, &ServerManager::onPortCheckDue);
+    connect(&m_listenerRetry, &ClockTimer::timeout, this, &ServerManager::retryPairingListener);
     connect(&m_pairing, &PairingSession::isPairingChanged, this, &ServerManager::isPairingChanged);
     connect(&m_pairing, &PairingSession::tokenChanged, this, &ServerManager::pairingTokenChanged);
     connect(&m_pairing, &PairingSession::expiresAtChanged, this,
@@ -56,6 +59,11 @@ QString ServerManager::supportDirectory() const
     return m_env.supportDirectory();
 }
 
+QString ServerManager::serverFifo()
+{
+    return QStringLiteral("/tmp/et.fifo");
+}
+
 QString ServerManager::pidFilePath() const
 {
     return supportDirectory() + QStringLiteral("/etserver.pid");
@@ -71,13 +79,19 @@ QStringList ServerManager::serverArguments() const
              QStringLiteral("--logdir"),
              support,
              QStringLiteral("--serverfifo"),
-             serverFifo,
+             serverFifo(),
              QStringLiteral("--logtostdout"),
              QStringLiteral("--verbose"),
              QStringLiteral("1") };
 }
 
 void ServerManager::startServer()
+{
+    cancelRecovery();
+    launchServer();
+}
+
+void ServerManager::launchServer()
 {
     const QString executable = etserverURL();
     if (executable.isEmpty()) {
@@ -91,7 +105,7 @@ void ServerManager::startServer()
         stopServer();
 
     const QString support = supportDirectory();
-    const QString fifo = QStringLiteral("%1 (%2 chars)").arg(serverFifo).arg(serverFifo.size());
+    const QString fifo = QStringLiteral("%1 (%2 chars)").arg(serverFifo()).arg(serverFifo().size());
     qCInfo(lcConsole).nospace().noquote() << "App support directory: " << support;
     qCInfo(lcConsole).nospace().noquote() << "FIFO path: " << fifo;
     qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Support dir: " << support;
@@ -101,6 +115,13 @@ void ServerManager::startServer()
     qCInfo(lcLog).nospace().noquote()
         << QStringLiteral("[QuivraMac] Starting server on port %1...").arg(m_port);
 
+    serverchecks::pruneServerLogs(support);
+    if (serverchecks::ownedByAnotherUser(serverFifo(), serverchecks::currentUser()))
+        return notStarted({ ServerFailure::FifoTaken });
+    if (serverchecks::portInUse(quint16(m_port))) {
+        notStarted({ ServerFailure::PortInUse });
+        return waitForPort();
+    }
     m_portTaken = false;
     if (const auto error = m_process.launch(executable, serverArguments())) {
         qCInfo(lcConsole).nospace().noquote() << "Failed to launch server: " << *error;
@@ -114,8 +135,14 @@ void ServerManager::startServer()
 
 void ServerManager::stopServer()
 {
-    if (!m_process.process())
+    const bool wasRecovering = cancelRecovery();
+    if (!m_process.process()) {
+        // A stop while waiting to start again ends the wait, and what it waited for is no
+        // longer a failure.
+        if (wasRecovering)
+            setFailure({});
         return;
+    }
     qCInfo(lcConsole).nospace().noquote()
         << QStringLiteral("Stopping Quivra Server (PID %1)...").arg(m_process.pid());
     qCInfo(lcLog).nospace().noquote()
@@ -127,27 +154,20 @@ void ServerManager::stopServer()
             << "[QuivraMac] Force killing server (didn't exit gracefully)";
     });
     QFile::remove(pidFilePath());
+    serverchecks::removeOwnSocket(serverFifo());
     setFailure({});
     qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Server stopped";
 }
 
 void ServerManager::stopServerForQuit()
 {
+    cancelRecovery();
     if (m_process.isRunning()) {
         qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Stopping server for app quit...";
         m_process.stop(std::chrono::milliseconds(1000));
     }
     m_orphans.stopFromPidFile();
-}
-
-void ServerManager::onServerExited(int code, bool current)
-{
-    if (current) {
-        stopPairingListener();
-        setFailure({ m_portTaken ? ServerFailure::PortInUse : ServerFailure::Exited, code });
-    }
-    qCInfo(lcLog).nospace().noquote()
-        << QStringLiteral("[QuivraMac] Server exited with code %1").arg(code);
+    serverchecks::removeOwnSocket(serverFifo());
 }
 
 void ServerManager::appendServerOutput(const QByteArray &chunk)
@@ -184,6 +204,18 @@ void ServerManager::setFailure(const ServerFailure &failure)
         return;
     m_failure = failure;
     Q_EMIT lastFailureChanged();
+    updateFailureReason();
+}
+
+void ServerManager::updateFailureReason()
+{
+    QString reason = serverfailure::describe(m_failure, m_port, serverFifo());
+    if (reason.isEmpty())
+        reason = m_listenerProblem;
+    if (reason == m_failureReason)
+        return;
+    m_failureReason = reason;
+    Q_EMIT failureReasonChanged();
 }
 
 void ServerManager::setLastPairedDevice(const QString &name)

@@ -6,6 +6,7 @@
 #include "platform/logging.h"
 #include "server/keyinstaller.h"
 #include "server/orphanreaper.h"
+#include "server/restartpolicy.h"
 #include "server/serverenvironment.h"
 #include "server/serverfailure.h"
 #include "server/serverlog.h"
@@ -15,6 +16,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 // The one object the views, the phone's requests and the session bus see: the etserver child,
 // its log, the machine's address and pairing mode. It is a façade: the child is a
@@ -35,8 +37,14 @@ class ServerManager : public QObject
     Q_PROPERTY(PairingSession *pairingSession READ pairingSessionObject CONSTANT)
     // When the current code expires, in milliseconds since the epoch.
     Q_PROPERTY(qint64 pairingExpiresAt READ pairingExpiresAt NOTIFY pairingExpiresAtChanged)
+    // Why the server is not running, or why phones cannot pair while it runs, in plain words;
+    // empty when nothing is wrong.
+    Q_PROPERTY(QString failureReason READ failureReason NOTIFY failureReasonChanged)
 
 public:
+    // A taken port is looked at again this often, by the server's start and by the listener.
+    static constexpr std::chrono::seconds portRecheckInterval { 5 };
+
     explicit ServerManager(ServerEnvironment environment = {}, QObject *parent = nullptr);
     ~ServerManager() override;
 
@@ -52,12 +60,18 @@ public:
     QString lastPairedDevice() const { return m_lastPairedDevice; }
     // Why the last start did not give a running server, or why it stopped by itself.
     ServerFailure lastFailure() const { return m_failure; }
+    QString failureReason() const { return m_failureReason; }
+    // The pause before the next automatic start after an unexpected stop, while one is due.
+    std::optional<std::chrono::milliseconds> pendingRestart() const;
+    // A taken port keeps the server from starting; it starts once the port is free.
+    bool isWaitingForPort() const { return m_portWatch.isActive(); }
 
     // Replaces the whole log; clearing it from the settings window assigns an empty text.
     void setLogs(const QString &logs);
 
+    // The user's start: also after the app gave up restarting a server that kept stopping.
     Q_INVOKABLE void startServer();
-    // Blocks for at most about 2.1 s: SIGTERM, then SIGKILL.
+    // Blocks for at most about 2.1 s: SIGTERM, then SIGKILL. Cancels a pending restart.
     Q_INVOKABLE void stopServer();
     void stopServerForQuit();
     void cleanupOrphanedServers() { m_orphans.cleanup(); }
@@ -68,6 +82,8 @@ public:
     QString etserverURL() const;
     QString supportDirectory() const;
     QString pidFilePath() const;
+    // Where etserver listens for its terminals; fixed and shared by every user of the machine.
+    static QString serverFifo();
     QStringList serverArguments() const;
 
     // The user's switch: on refreshes the address and issues a fresh code, and both ways log.
@@ -100,12 +116,22 @@ Q_SIGNALS:
     void lastPairedDeviceChanged();
     void pairingExpiresAtChanged();
     void lastFailureChanged();
+    void failureReasonChanged();
     void devicesChanged();
 
 private:
+    void launchServer();
+    void notStarted(const ServerFailure &failure);
+    void waitForPort();
+    void onPortCheckDue();
+    void onServerExited(int code, bool crashed, bool current);
+    // Stops pending restarts and port checks; true when one was pending.
+    bool cancelRecovery();
+    void onPairingListenerFailed();
+    void retryPairingListener();
+    void updateFailureReason();
     void appendToLog(logging::Entry kind, const QString &text);
     void appendServerOutput(const QByteArray &chunk);
-    void onServerExited(int code, bool current);
     void setLocalIP(const QString &address);
     void setLastPairedDevice(const QString &name);
     void setFailure(const ServerFailure &failure);
@@ -117,8 +143,15 @@ private:
     logging::AppLog m_previousAppLog;
     QString m_lastPairedDevice;
     ServerFailure m_failure;
+    QString m_failureReason;
+    // Why the pairing listener could not listen, while it retries.
+    QString m_listenerProblem;
     // The child said it could not bind its port since it was launched.
     bool m_portTaken = false;
+    RestartPolicy m_restarts;
+    ClockTimer m_restartTimer;
+    ClockTimer m_portWatch;
+    ClockTimer m_listenerRetry;
 
     ServerProcess m_process;
     OrphanReaper m_orphans;

@@ -46,10 +46,17 @@ void ServerManager::startPairingListener()
     };
     m_pairingListener->start(m_env.pairingPort, m_env.advertise);
     qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Bonjour listener started (iOS can discover)";
+    if (!m_pairingListener->isListening())
+        onPairingListenerFailed();
 }
 
 void ServerManager::stopPairingListener()
 {
+    m_listenerRetry.stop();
+    if (!m_listenerProblem.isEmpty()) {
+        m_listenerProblem.clear();
+        updateFailureReason();
+    }
     if (m_pairingListener) {
         m_pairingListener->stop();
         m_pairingListener.reset();

@@ -40,21 +40,23 @@ std::optional<QString> ServerProcess::launch(const QString &program, const QStri
     m_uptimeTimer.start();
     auto *reader = new ServerOutputReader(process);
     connect(reader, &ServerOutputReader::received, this, &ServerProcess::output);
-    connect(process, &QProcess::finished, this, [this, generation, reader](int code) {
-        reader->flush();
-        QMetaObject::invokeMethod(
-            this,
-            [this, generation, code] {
-                const bool current = m_process && generation == m_generation;
-                if (current) {
-                    setRunning(false);
-                    m_uptimeTimer.stop();
-                    setUptime(0);
-                }
-                Q_EMIT exited(code, current);
-            },
-            Qt::QueuedConnection);
-    });
+    connect(process, &QProcess::finished, this,
+            [this, generation, reader](int code, QProcess::ExitStatus status) {
+                reader->flush();
+                const bool crashed = status == QProcess::CrashExit;
+                QMetaObject::invokeMethod(
+                    this,
+                    [this, generation, code, crashed] {
+                        const bool current = m_process && generation == m_generation;
+                        if (current) {
+                            setRunning(false);
+                            m_uptimeTimer.stop();
+                            setUptime(0);
+                        }
+                        Q_EMIT exited(code, crashed, current);
+                    },
+                    Qt::QueuedConnection);
+            });
     return std::nullopt;
 }
 

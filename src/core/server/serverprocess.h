@@ -36,8 +36,9 @@ Q_SIGNALS:
     void uptimeChanged();
     void output(const QByteArray &chunk);
     // After the child's last output, on the loop's next turn: a stop's own messages come first.
-    // Also for a child already replaced by a newer one, with `current` false.
-    void exited(int code, bool current);
+    // Also for a child already replaced by a newer one, with `current` false. When `crashed`,
+    // code is the number of the signal that ended it.
+    void exited(int code, bool crashed, bool current);
 
 private:
     void setRunning(bool running);

@@ -12,6 +12,13 @@ DnsSdAdvertiser::DnsSdAdvertiser(QObject *parent)
 {
     // Avahi's compatibility layer otherwise prints a warning to stderr on first use.
     qputenv("AVAHI_COMPAT_NOWARN", "1");
+    m_retry.setSingleShot(true);
+    m_retry.setInterval(retryInterval);
+    connect(&m_retry, &QTimer::timeout, this, [this] {
+        release();
+        if (m_wanted)
+            registerService(true);
+    });
 }
 
 DnsSdAdvertiser::~DnsSdAdvertiser()
@@ -22,32 +29,50 @@ DnsSdAdvertiser::~DnsSdAdvertiser()
 bool DnsSdAdvertiser::advertise(const QString &name, const QString &type, quint16 port)
 {
     withdraw();
+    m_name = name;
+    m_type = type;
+    m_port = port;
+    m_wanted = true;
+    m_failing = false;
+    // A refusal at once is told by the result, not by failed().
+    return registerService(false);
+}
+
+bool DnsSdAdvertiser::registerService(bool announceFailure)
+{
     const auto reply = [](DNSServiceRef, DNSServiceFlags, DNSServiceErrorType code,
                           const char *registeredName, const char *, const char *, void *context) {
         static_cast<DnsSdAdvertiser *>(context)->onRegisterReply(
             code, QString::fromUtf8(registeredName ? registeredName : ""));
     };
     const DNSServiceErrorType code = DNSServiceRegister(
-        &m_service, 0, kDNSServiceInterfaceIndexAny, name.toUtf8().constData(),
-        type.toUtf8().constData(), nullptr, nullptr, htons(port), 0, nullptr, reply, this);
+        &m_service, 0, kDNSServiceInterfaceIndexAny, m_name.toUtf8().constData(),
+        m_type.toUtf8().constData(), nullptr, nullptr, htons(m_port), 0, nullptr, reply, this);
     if (code != kDNSServiceErr_NoError) {
         m_service = nullptr;
-        m_error = describe(code);
+        lost(describe(code), announceFailure);
         return false;
     }
     m_notifier =
         std::make_unique<QSocketNotifier>(DNSServiceRefSockFD(m_service), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
         if (m_service && DNSServiceProcessResult(m_service) != kDNSServiceErr_NoError) {
-            m_error = QStringLiteral("the DNS-SD daemon closed the connection");
-            withdraw();
-            Q_EMIT failed(m_error);
+            // Released here, outside the library's own call.
+            release();
+            lost(QStringLiteral("the DNS-SD daemon closed the connection"), true);
         }
     });
     return true;
 }
 
 void DnsSdAdvertiser::withdraw()
+{
+    m_wanted = false;
+    m_retry.stop();
+    release();
+}
+
+void DnsSdAdvertiser::release()
 {
     m_notifier.reset();
     if (m_service) {
@@ -56,14 +81,25 @@ void DnsSdAdvertiser::withdraw()
     }
 }
 
+// The reference is not released here: this may run inside the library's own callback. The
+// retry releases it first.
+void DnsSdAdvertiser::lost(const QString &error, bool announce)
+{
+    m_error = error;
+    if (m_wanted)
+        m_retry.start();
+    if (!std::exchange(m_failing, true) && announce)
+        Q_EMIT failed(m_error);
+}
+
 void DnsSdAdvertiser::onRegisterReply(int code, const QString &name)
 {
     if (code == kDNSServiceErr_NoError) {
+        m_failing = false;
         Q_EMIT registered(name);
         return;
     }
-    m_error = describe(code);
-    Q_EMIT failed(m_error);
+    lost(describe(code), true);
 }
 
 QString DnsSdAdvertiser::describe(int code)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QtGlobal>
 
 #include <memory>
@@ -19,6 +20,8 @@ public:
     // True only for a process of the current user whose executable is named exactly "etserver":
     // a command line that merely mentions the word (an editor, a shell loop) never qualifies.
     virtual bool isOwnServer(qint64 pid) const;
+    // The process's command line, its program first; empty when it cannot be read.
+    virtual QStringList arguments(qint64 pid) const;
 
     static std::shared_ptr<ProcessTable> system();
 };

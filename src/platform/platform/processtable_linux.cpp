@@ -33,4 +33,20 @@ bool ProcessTable::isOwnServer(qint64 pid) const
     return !exe.isEmpty() && QFileInfo(exe).fileName() == QLatin1String("etserver");
 }
 
+QStringList ProcessTable::arguments(qint64 pid) const
+{
+    if (pid <= 0)
+        return {};
+    QFile cmdline(QStringLiteral("/proc/%1/cmdline").arg(pid));
+    if (!cmdline.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray text = cmdline.readAll();
+    if (text.endsWith('\0'))
+        text.chop(1);
+    QStringList arguments;
+    for (const QByteArray &argument : text.split('\0'))
+        arguments.append(QFile::decodeName(argument));
+    return text.isEmpty() ? QStringList() : arguments;
+}
+
 } // namespace platform

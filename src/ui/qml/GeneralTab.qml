@@ -84,6 +84,17 @@ ScrollView {
                 }
             }
             InstallLink { visible: Ui.etserverMissing }
+            Text {
+                objectName: "statusReason"
+                Layout.fillWidth: true
+                Layout.topMargin: -6
+                visible: text !== ""
+                text: ServerManager.failureReason
+                horizontalAlignment: Text.AlignRight
+                wrapMode: Text.Wrap
+                font.pixelSize: 11
+                color: Theme.textSecondary
+            }
             FormRow {
                 label: "Uptime"
                 visible: ServerManager.isRunning

@@ -2,11 +2,12 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// Status line with the server switch.
+// Status line with the server switch, and why the server is not running when something keeps it.
 RowLayout {
     id: header
     property bool isRunning
     property int port
+    property string failureReason
     signal toggle()
 
     spacing: 8
@@ -18,6 +19,7 @@ RowLayout {
         color: header.isRunning ? Theme.green : Theme.gray
     }
     ColumnLayout {
+        Layout.fillWidth: true
         spacing: 1
         Text {
             text: "QuivraMac"
@@ -31,8 +33,21 @@ RowLayout {
             font.pixelSize: 11
             color: Theme.textSecondary
         }
+        // Wrapped to the panel's width rather than widening it. The alignment is set because an
+        // empty text would otherwise ask the input method for its direction, which crashes Qt's
+        // Wayland client on a seat without a keyboard.
+        Text {
+            objectName: "serverReason"
+            Layout.fillWidth: true
+            Layout.preferredWidth: 0
+            visible: text !== ""
+            text: header.failureReason
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
+            font.pixelSize: 10
+            color: Theme.textSecondary
+        }
     }
-    Item { Layout.fillWidth: true }
     Switch {
         objectName: "serverSwitch"
         palette.window: Theme.knob

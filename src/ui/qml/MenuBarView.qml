@@ -19,6 +19,7 @@ ThemedSurface {
             Layout.fillWidth: true
             isRunning: ServerManager.isRunning
             port: ServerManager.port
+            failureReason: ServerManager.failureReason
             onToggle: Ui.toggleServer()
         }
         MenuRowButton {
