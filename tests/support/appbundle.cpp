@@ -7,8 +7,9 @@ namespace testsupport {
 AppBundle::AppBundle()
 {
     QFile::copy(QStringLiteral(QUIVRA_APP_EXECUTABLE), filePath("quivramac"));
+    QFile::copy(QStringLiteral(QUIVRA_WINDOWS_MODULE), filePath("quivramac-windows.so"));
     QFile::copy(fakeEtserverPath(), filePath("etserver"));
-    for (const char *name : { "quivramac", "etserver" })
+    for (const char *name : { "quivramac", "quivramac-windows.so", "etserver" })
         QFile::setPermissions(filePath(name), QFile::ExeOwner | QFile::ReadOwner);
 }
 
@@ -17,13 +18,14 @@ AppBundle::~AppBundle()
     stop();
 }
 
-void AppBundle::launch()
+void AppBundle::launch(const QStringList &arguments, const QProcessEnvironment &environment)
 {
     m_output.clear();
     m_app = std::make_unique<QProcess>();
     m_app->setProcessChannelMode(QProcess::MergedChannels);
+    m_app->setProcessEnvironment(environment);
     QObject::connect(m_app.get(), &QProcess::readyRead, [this] { m_output += m_app->readAll(); });
-    m_app->start(filePath("quivramac"), {});
+    m_app->start(filePath("quivramac"), arguments);
     m_app->waitForStarted();
 }
 
