@@ -19,6 +19,8 @@ packages=(
     avahi-utils openssh-server openssh-client iproute2 util-linux curl xvfb xauth
     # tests of the desktop: a headless Wayland compositor, an X11 tray, X11 windows from outside
     weston trayer xdotool
+    # the Debian package: its dependencies worked out, its desktop entry and metainfo validated
+    dpkg-dev file desktop-file-utils appstream
 )
 
 missing=()
