@@ -8,7 +8,7 @@
 
 ServerProcess::ServerProcess(std::chrono::milliseconds uptimeTick, QObject *parent)
     : QObject(parent)
-    , m_tickNanoseconds(std::chrono::nanoseconds(uptimeTick).count())
+    , m_tickNanoseconds(std::max<qint64>(1, std::chrono::nanoseconds(uptimeTick).count()))
 {
     // Set afresh for each whole tick, so a shown uptime never skips or repeats a second.
     m_uptimeTimer.setSingleShot(true);
