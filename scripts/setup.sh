@@ -21,6 +21,8 @@ packages=(
     weston trayer xdotool
     # tests with the real Eternal Terminal (../shared/et, never shipped): its runtime libraries
     libprotobuf32 libsodium23 libunwind8 libutempter0 libssl3 libbrotli1
+    # the Debian package: its dependencies worked out, its desktop entry and metainfo validated
+    dpkg-dev file desktop-file-utils appstream
 )
 
 missing=()

@@ -23,14 +23,8 @@ bool choose()
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return true;
     const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
-    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-#ifndef Q_OS_MACOS
-        // Without a display the app runs as it otherwise would, only with no windows.
-        if (!x11)
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-#endif
+    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         return true;
-    }
     if (waylandPluginInstalled()) {
         // Qt picks Wayland by itself only where XDG_SESSION_TYPE says so.
         qputenv("QT_QPA_PLATFORM", x11 ? "wayland;xcb" : "wayland");

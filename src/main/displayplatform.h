@@ -3,8 +3,8 @@
 // The windowing platform, chosen before the application object exists.
 namespace displayplatform {
 
-// Without a display: no windows (the offscreen platform); in a Wayland session: Wayland itself,
-// else X11 through Xwayland. False, after saying why, when no platform can work.
+// Only where there is a display (launch::hasDisplay). In a Wayland session: Wayland itself, else
+// X11 through Xwayland. False, after saying why, when no platform can work.
 bool choose();
 // After start-up: why a Wayland session got X11 windows, when it did.
 void explainFallback();

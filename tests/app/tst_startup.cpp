@@ -3,7 +3,9 @@
 
 #include <QDir>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
+#include <QTemporaryDir>
 
 #include <csignal>
 
@@ -103,6 +105,62 @@ private Q_SLOTS:
             m_bundle.lineIndex(QStringLiteral("[QuivraMac] Killing etserver PID %1").arg(orphan));
         QVERIFY(killed >= 0 && killed < m_bundle.lineIndex("Starting Quivra Server"));
         QVERIFY(!platform::ProcessTable::system()->exists(orphan));
+    }
+
+    // Without a display, or told --headless, the app runs on QtCore alone: no GUI, Quick,
+    // Widgets or OpenGL library is ever mapped into it.
+    void headlessMapsNoGuiLibrary_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("display");
+        QTest::newRow("no display") << QStringList() << QString();
+        QTest::newRow("--headless beside a display") << QStringList { "--headless" } << ":99";
+    }
+
+    void headlessMapsNoGuiLibrary()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, display);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
+            environment.remove(name);
+        if (!display.isEmpty())
+            environment.insert("DISPLAY", display);
+        m_bundle.launch(arguments, environment);
+        QTRY_VERIFY(m_bundle.printed("PairingListener started on port 8080"));
+
+        QFile maps(QStringLiteral("/proc/%1/maps").arg(m_bundle.process().processId()));
+        if (!maps.open(QIODevice::ReadOnly))
+            QSKIP("no /proc/PID/maps on this system");
+        const QString mapped = QString::fromUtf8(maps.readAll());
+        QVERIFY(mapped.contains("libQt6Core.so"));
+        static const QRegularExpression gui("/lib(Qt6(Gui|Quick|Qml|Widgets|OpenGL)|E?GLX?|OpenGL)"
+                                            "[^/\\n]*\\.so");
+        const QRegularExpressionMatch match = gui.match(mapped);
+        QVERIFY2(!match.hasMatch(), qPrintable(match.captured()));
+        QCOMPARE(m_bundle.lineIndex("QuivraMac runs without windows"), -1);
+    }
+
+    // They answer before anything else happens: no settings, no bus, no display, no files.
+    void versionAndHelpTouchNothing()
+    {
+        QTemporaryDir home;
+        QProcessEnvironment environment;
+        environment.insert("HOME", home.path());
+        environment.insert("DISPLAY", ":99");
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + home.filePath("bus"));
+        const auto run = [&](const QString &argument) {
+            QProcess app;
+            app.setProcessEnvironment(environment);
+            app.start(m_bundle.filePath("quivramac"), { argument });
+            app.waitForFinished(5000);
+            return std::pair(app.exitCode(), QString::fromUtf8(app.readAllStandardOutput()));
+        };
+        QCOMPARE(run("--version"), std::pair(0, QStringLiteral("QuivraMac " QUIVRA_VERSION "\n")));
+        const auto [code, help] = run("--help");
+        QCOMPARE(code, 0);
+        QVERIFY(help.startsWith("Usage: quivramac [--headless]\n"));
+        QVERIFY(QDir(home.path()).isEmpty());
     }
 };
 

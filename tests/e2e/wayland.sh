@@ -34,7 +34,7 @@ weston_pid=$!
 within 10 test -S "$XDG_RUNTIME_DIR/quivra" || skip "weston cannot run here: $(tail -3 "$work/weston.log")"
 export WAYLAND_DISPLAY=quivra
 
-mkdir "$work/bundle" && cp "$app" "$etserver" "$work/bundle/"
+mkdir "$work/bundle" && cp "$app" "$(dirname "$app")/quivramac-windows.so" "$etserver" "$work/bundle/"
 # The protocol trace shows every window the app makes, by its title.
 WAYLAND_DEBUG=client "$work/bundle/quivramac" >"$work/app.log" 2>&1 &
 app_pid=$!

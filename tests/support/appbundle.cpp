@@ -7,8 +7,9 @@ namespace testsupport {
 AppBundle::AppBundle()
 {
     QFile::copy(QStringLiteral(QUIVRA_APP_EXECUTABLE), filePath("quivramac"));
+    QFile::copy(QStringLiteral(QUIVRA_WINDOWS_MODULE), filePath("quivramac-windows.so"));
     QFile::copy(fakeEtserverPath(), filePath("etserver"));
-    for (const char *name : { "quivramac", "etserver" })
+    for (const char *name : { "quivramac", "quivramac-windows.so", "etserver" })
         QFile::setPermissions(filePath(name), QFile::ExeOwner | QFile::ReadOwner);
 }
 
@@ -17,16 +18,16 @@ AppBundle::~AppBundle()
     stop();
 }
 
-void AppBundle::launch()
+void AppBundle::launch(const QStringList &arguments, const QProcessEnvironment &environment)
 {
     m_output.clear();
     m_app = std::make_unique<QProcess>();
     m_app->setProcessChannelMode(QProcess::MergedChannels);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("FAKE_ETSERVER_BIND", "1");
-    m_app->setProcessEnvironment(environment);
+    QProcessEnvironment withBinding = environment;
+    withBinding.insert("FAKE_ETSERVER_BIND", "1");
+    m_app->setProcessEnvironment(withBinding);
     QObject::connect(m_app.get(), &QProcess::readyRead, [this] { m_output += m_app->readAll(); });
-    m_app->start(filePath("quivramac"), {});
+    m_app->start(filePath("quivramac"), arguments);
     m_app->waitForStarted();
 }
 

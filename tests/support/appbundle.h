@@ -7,9 +7,9 @@
 
 namespace testsupport {
 
-// The real quivramac executable in a folder of its own with the fake etserver beside it, where
-// the app looks first; launched with its output collected. The fake binds its port, as the real
-// server does.
+// The real quivramac executable and its windows module in a folder of their own with the fake
+// etserver beside them, where the app looks first; launched with its output collected. The fake
+// binds its port, as the real server does.
 class AppBundle
 {
 public:
@@ -17,7 +17,8 @@ public:
     ~AppBundle();
 
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
-    void launch();
+    void launch(const QStringList &arguments = {},
+                const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
     // SIGTERM and a wait first: killing the app outright would orphan the server it started.
     void stop();
     QProcess &process() { return *m_app; }

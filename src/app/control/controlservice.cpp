@@ -38,12 +38,14 @@ ServerManagerAdaptor::ServerManagerAdaptor(ServerManager *manager)
     , m_manager(manager)
 {
     connect(manager, &ServerManager::devicesChanged, this, &ServerManagerAdaptor::DevicesChanged);
-    // Every observable property of the manager is announced when it changes.
+    // Every observable property of the manager is announced when it changes, except the uptime:
+    // it is worked out when read, and announcing it every second would wake the bus for nothing.
     const QMetaObject *meta = manager->metaObject();
     const QMetaMethod onChange =
         metaObject()->method(metaObject()->indexOfSlot("announceChange()"));
+    const int uptime = meta->indexOfProperty("uptime");
     for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
-        if (meta->property(i).hasNotifySignal())
+        if (i != uptime && meta->property(i).hasNotifySignal())
             connect(manager, meta->property(i).notifySignal(), this, onChange);
     }
     // The log changes with every chunk of server output: its first change goes out at once,

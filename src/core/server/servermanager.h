@@ -50,6 +50,8 @@ public:
 
     bool isRunning() const { return m_process.isRunning(); }
     double uptime() const { return m_process.uptime(); }
+    // uptimeChanged comes every second only while a view shows the uptime (ServerProcess).
+    void watchUptime(bool on) { m_process.watchUptime(on); }
     int port() const { return m_port; }
     QString pairingToken() const { return m_pairing.token(); }
     QString localIP() const { return m_localIP; }

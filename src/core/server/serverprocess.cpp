@@ -4,11 +4,16 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 ServerProcess::ServerProcess(std::chrono::milliseconds uptimeTick, QObject *parent)
     : QObject(parent)
+    , m_tickNanoseconds(std::max<qint64>(1, std::chrono::nanoseconds(uptimeTick).count()))
 {
-    m_uptimeTimer.setInterval(uptimeTick);
-    connect(&m_uptimeTimer, &QTimer::timeout, this, [this] { setUptime(m_uptime + 1.0); });
+    // Set afresh for each whole tick, so a shown uptime never skips or repeats a second.
+    m_uptimeTimer.setSingleShot(true);
+    m_uptimeTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_uptimeTimer, &QTimer::timeout, this, &ServerProcess::refreshUptime);
 }
 
 ServerProcess::~ServerProcess()
@@ -36,8 +41,9 @@ std::optional<QString> ServerProcess::launch(const QString &program, const QStri
     QProcess *process = child.get();
     m_process = std::move(child);
     m_pid = process->processId();
+    m_sinceLaunch.start();
     setRunning(true);
-    m_uptimeTimer.start();
+    refreshUptime();
     auto *reader = new ServerOutputReader(process);
     connect(reader, &ServerOutputReader::received, this, &ServerProcess::output);
     connect(process, &QProcess::finished, this,
@@ -50,8 +56,7 @@ std::optional<QString> ServerProcess::launch(const QString &program, const QStri
                         const bool current = m_process && generation == m_generation;
                         if (current) {
                             setRunning(false);
-                            m_uptimeTimer.stop();
-                            setUptime(0);
+                            refreshUptime();
                         }
                         Q_EMIT exited(code, crashed, current);
                     },
@@ -74,8 +79,7 @@ void ServerProcess::stop(std::chrono::milliseconds grace, const std::function<vo
     }
     m_process.reset();
     setRunning(false);
-    m_uptimeTimer.stop();
-    setUptime(0);
+    refreshUptime();
 }
 
 void ServerProcess::setRunning(bool running)
@@ -86,10 +90,30 @@ void ServerProcess::setRunning(bool running)
     Q_EMIT runningChanged();
 }
 
-void ServerProcess::setUptime(double uptime)
+double ServerProcess::uptime() const
 {
-    if (uptime == m_uptime)
+    return m_running ? double(m_sinceLaunch.nsecsElapsed() / m_tickNanoseconds) : 0.0;
+}
+
+void ServerProcess::watchUptime(bool on)
+{
+    m_uptimeWatchers = std::max(0, m_uptimeWatchers + (on ? 1 : -1));
+    refreshUptime();
+}
+
+void ServerProcess::refreshUptime()
+{
+    // A reset is announced even unwatched: it is rare, and views must not keep the old value.
+    const double now = uptime();
+    if (now != m_announcedUptime) {
+        m_announcedUptime = now;
+        Q_EMIT uptimeChanged();
+    }
+    if (!m_running || m_uptimeWatchers == 0) {
+        m_uptimeTimer.stop();
         return;
-    m_uptime = uptime;
-    Q_EMIT uptimeChanged();
+    }
+    const qint64 intoTick = m_sinceLaunch.nsecsElapsed() % m_tickNanoseconds;
+    // Rounded up, so the tick lands just past the boundary rather than just before it.
+    m_uptimeTimer.start(int((m_tickNanoseconds - intoTick + 999'999) / 1'000'000));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QProcess>
 #include <QTimer>
@@ -20,7 +21,11 @@ public:
     ~ServerProcess() override;
 
     bool isRunning() const { return m_running; }
-    double uptime() const { return m_uptime; }
+    // Whole ticks since the launch, worked out when read; 0 while not running.
+    double uptime() const;
+    // uptimeChanged comes once a tick only while someone shows the uptime: an idle process
+    // without a view stays asleep. Counted, so every watch(true) needs its watch(false).
+    void watchUptime(bool on);
     qint64 pid() const { return m_pid; }
     // From launch until the next stop; after the child exits by itself it stays until then.
     QProcess *process() const { return m_process.get(); }
@@ -42,7 +47,8 @@ Q_SIGNALS:
 
 private:
     void setRunning(bool running);
-    void setUptime(double uptime);
+    // Announces a changed uptime and sets the tick for the next whole one, when watched.
+    void refreshUptime();
 
     // Dropped from inside its own signal handlers, so deleted later.
     struct DeleteLater
@@ -54,6 +60,9 @@ private:
     // Tells a child's exit apart from its successor's after a restart.
     quint64 m_generation = 0;
     bool m_running = false;
-    double m_uptime = 0;
+    const qint64 m_tickNanoseconds;
+    QElapsedTimer m_sinceLaunch;
+    double m_announcedUptime = 0;
+    int m_uptimeWatchers = 0;
     QTimer m_uptimeTimer;
 };

@@ -99,10 +99,16 @@ ScrollView {
                 label: "Uptime"
                 visible: ServerManager.isRunning
                 Text {
+                    id: uptimeText
                     objectName: "uptimeText"
                     text: Ui.uptimeText(ServerManager.uptime)
                     font.pixelSize: 13
                     color: Theme.textSecondary
+                    UptimeWatch {
+                        manager: ServerManager
+                        active: uptimeText.visible && uptimeText.Window.window !== null
+                                && uptimeText.Window.window.visible
+                    }
                 }
             }
             RowLayout {
