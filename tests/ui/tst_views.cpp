@@ -31,6 +31,14 @@ private Q_SLOTS:
         m_harness.reset();
     }
 
+    // The server switch sits at the panel's end whether or not a reason shows below the status.
+    bool switchAtTheEnd()
+    {
+        auto *control = h().find<QQuickItem>("serverSwitch");
+        return control->mapRectToScene(control->boundingRect()).right()
+            > h().window()->width() - 24;
+    }
+
     void headerFollowsTheServer()
     {
         QVERIFY(h().show("MenuBarView"));
@@ -44,6 +52,7 @@ private Q_SLOTS:
         QCOMPARE(text("serverStatus"), "Port 2022");
         QVERIFY(dot() != stopped);
         QVERIFY(h().find<QObject>("serverSwitch")->property("checked").toBool());
+        QVERIFY(switchAtTheEnd());
         const QStringList titles = h().visibleTexts();
         for (const char *title :
              { "Pair New Device", "Setup Assistant...", "Settings...", "Quit QuivraMac" })
@@ -127,6 +136,7 @@ private Q_SLOTS:
         QCOMPARE(text("serverReason"), reason);
         QVERIFY(h().find<QQuickItem>("serverReason")->isVisible());
         QCOMPARE(text("serverStatus"), "Server off");
+        QVERIFY(switchAtTheEnd());
         QVERIFY(h().find<QQuickItem>("installEtRow")->isVisible());
         QSignalSpy requested(&h().ui(), &UiController::windowRequested);
         click("installEtRow");

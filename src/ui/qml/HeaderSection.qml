@@ -22,6 +22,8 @@ RowLayout {
         Layout.fillWidth: true
         spacing: 1
         Text {
+            // Fills the row so the switch stays at its end, with or without a reason below.
+            Layout.fillWidth: true
             text: "QuivraMac"
             font.pixelSize: 13
             font.weight: Font.Medium
