@@ -23,7 +23,16 @@ if [ "${1:-}" != --inside ]; then
     [ "$(id -u)" -eq 0 ] || skip "needs root for private namespaces and an SSH server on port 22"
     unshare -n -m -p --fork --mount-proc true 2>/dev/null ||
         skip "cannot make private network, mount and process namespaces here"
-    exec unshare -n -m -p --fork --mount-proc -- "$0" --inside "$@"
+    # The private /tmp and /run hide whatever lies below them, a checkout in /tmp included: the
+    # scripts and programs run from a copy outside them.
+    stage=$(mktemp -d /var/tmp/quivra-e2e.XXXXXX)
+    trap 'rm -rf "$stage"' EXIT
+    cp "$(dirname "$0")/etserver.sh" "$(dirname "$0")/common.sh" "$1" "$2" "$stage/"
+    cp -r "$3" "$stage/et"
+    status=0
+    unshare -n -m -p --fork --mount-proc -- "$stage/etserver.sh" --inside \
+        "$stage/$(basename "$1")" "$stage/$(basename "$2")" "$stage/et" || status=$?
+    exit "$status"
 fi
 
 if [ "${2:-}" != --session ]; then
