@@ -125,13 +125,16 @@ QString etserverInstallCommandOn(const QString &osRelease)
     return {};
 }
 
+// Read once: every status report asks, and the system does not change while the app runs.
 QString sshNotRunning()
 {
-    return sshNotRunningOn(osRelease());
+    static const QString message = sshNotRunningOn(osRelease());
+    return message;
 }
 QString etserverInstallCommand()
 {
-    return etserverInstallCommandOn(osRelease());
+    static const QString command = etserverInstallCommandOn(osRelease());
+    return command;
 }
 QString sshNotRunningShort()
 {
