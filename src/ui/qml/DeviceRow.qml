@@ -18,13 +18,6 @@ Item {
 
     implicitHeight: content.implicitHeight + 24
 
-    component LinkButton: AbstractButton {
-        id: link
-        property color color: Theme.accentColor
-        Accessible.name: text
-        contentItem: Text { text: link.text; font.pixelSize: 12; color: link.color }
-    }
-
     Rectangle {
         visible: row.index > 0
         width: parent.width - 24

@@ -1,0 +1,17 @@
+import QtQuick
+import QtQuick.Controls
+
+// A button that reads as a link: accent-coloured text, underlined under the pointer.
+AbstractButton {
+    id: link
+    property color color: Theme.accentColor
+    property int pixelSize: 12
+    Accessible.name: text
+    hoverEnabled: true
+    contentItem: Text {
+        text: link.text
+        font.pixelSize: link.pixelSize
+        font.underline: link.hovered
+        color: link.color
+    }
+}
