@@ -108,6 +108,8 @@ private Q_SLOTS:
         view->setProperty("selectedTab", 1);
         h().manager().setLogs({});
         QCOMPARE(text("logsEnd"), "No logs yet...");
+        // An empty log still replaces what the clipboard held before.
+        QGuiApplication::clipboard()->setText("something copied earlier");
         click("copyButton");
         QCOMPARE(QGuiApplication::clipboard()->text(), QString());
         h().manager().setLogs("[QuivraMac] one\n[etserver] two\n");
