@@ -119,9 +119,11 @@ private Q_SLOTS:
                 missing(
                     QStringLiteral("%1 is not installed (scripts/setup.sh installs it)").arg(tool));
         }
-        // Xvfb picks a free display and names it once it accepts connections.
-        m_xvfb.start("Xvfb",
-                     { "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp" });
+        // Xvfb picks a free display and names it once it accepts connections. Without -noreset
+        // it resets whenever its last client leaves, and refuses the relaunched app meanwhile.
+        m_xvfb.start(
+            "Xvfb",
+            { "-displayfd", "1", "-noreset", "-screen", "0", "1280x800x24", "-nolisten", "tcp" });
         QTRY_VERIFY_WITH_TIMEOUT(m_xvfb.canReadLine(), 10000);
         qputenv("DISPLAY", ':' + m_xvfb.readLine().trimmed());
         qputenv("QT_QPA_PLATFORM", "xcb");

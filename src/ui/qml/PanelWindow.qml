@@ -6,6 +6,10 @@ import QtQuick.Window
 Window {
     id: window
     property bool popover: true
+    // Set by whoever shows the pop-over while the hidden panel still counts as active: X11
+    // reports the earlier loss of focus late (Qt waits a moment for a focus that may
+    // follow), and that report must not close the panel just shown.
+    property bool staleFocusLoss: false
     title: "QuivraMac"
     flags: popover ? (Qt.Tool | Qt.FramelessWindowHint) : Qt.Window
     width: view.implicitWidth
@@ -13,7 +17,20 @@ Window {
     minimumWidth: width
     maximumWidth: width
     color: Theme.background
-    onActiveChanged: if (popover && !active) hide()
+    onActiveChanged: {
+        if (active)
+            return
+        if (staleFocusLoss)
+            staleFocusLoss = false
+        else if (popover)
+            hide()
+    }
+    // When the focus comes back before the platform gave up on it, no late report follows.
+    Timer {
+        running: window.staleFocusLoss
+        interval: 1000
+        onTriggered: window.staleFocusLoss = false
+    }
     MenuBarView {
         id: view
         anchors.fill: parent

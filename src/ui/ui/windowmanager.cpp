@@ -92,6 +92,8 @@ void WindowManager::togglePanel(const QRect &anchor)
         return;
     }
     panel->setProperty("popover", true);
+    // Hidden a moment ago, it still counts as active until X11's late report of the focus loss.
+    panel->setProperty("staleFocusLoss", panel->isActive());
     const QScreen *screen = QGuiApplication::screenAt(anchor.center());
     if (!screen)
         screen = QGuiApplication::primaryScreen();
