@@ -21,10 +21,15 @@ inline QString setupSymbolic()
 {
     return QStringLiteral(":/QuivraMac/Icons/quivramac-setup-symbolic.svg");
 }
-// For panels that draw icons as they are: a mid-light tone that reads on light and dark panels.
+// For panels that draw icons as they are: a mid tone that stands at 3:1 or more against light
+// and dark panels alike, once set up and before.
 inline QString tray()
 {
     return QStringLiteral(":/QuivraMac/Icons/quivramac-tray.svg");
+}
+inline QString setupTray()
+{
+    return QStringLiteral(":/QuivraMac/Icons/quivramac-setup-tray.svg");
 }
 
 // The SVG at `file` drawn antialiased on a transparent side x side square, exactly as the build

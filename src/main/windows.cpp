@@ -46,7 +46,7 @@ extern "C" Q_DECL_EXPORT int quivramacRunWithWindows(int *argc, char **argv)
         windows.open(QStringLiteral("onboarding"));
     // After the first-run window, so that a panel opened as a window finds its place beside it.
     TrayIcon tray(&instance.app(), &manager, &windows);
-    const WindowService windowService([&windows] { windows.showPanel(); });
+    const WindowService windowService([&tray] { tray.showPanel(); });
     // For the benchmarks, which have no way to click: the settings window on its Logs tab.
     if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs")) {
         windows.open(QStringLiteral("settings"));

@@ -42,6 +42,8 @@ class TestDesktop : public QObject
     QProcess m_xvfb;
     Watcher m_watcher;
     static constexpr auto watcherName = "org.kde.StatusNotifierWatcher";
+    // Qt's own, as no settings daemon on this X server says otherwise.
+    static constexpr int doubleClickInterval = 400;
 
     // Waits with the event loop running: the app's calls to this test's watcher must be
     // answered meanwhile, or both sides stall until the bus gives up on the call.
@@ -102,6 +104,72 @@ class TestDesktop : public QObject
         QCOMPARE(callItem("Activate", { x, y }).type(), QDBusMessage::ReplyMessage);
     }
 
+    // A click the user makes on its own, not as the second half of a double-click: the wait is
+    // the input being simulated, not a wait for the app.
+    void activateLaterAt(int x, int y)
+    {
+        QTest::qWait(doubleClickInterval + 100);
+        activateAt(x, y);
+    }
+
+    // The panel after an activation at the point; fails the test when none shows.
+    std::optional<QRect> panelAfterActivationAt(int x, int y)
+    {
+        activateLaterAt(x, y);
+        std::optional<QRect> panel;
+        if (!QTest::qWaitFor([&] { return (panel = window("QuivraMac")).has_value(); }, 10000))
+            qWarning("no panel after an activation at %d,%d", x, y);
+        return panel;
+    }
+
+    // By a click on the item at that point, as the user closes it.
+    void closePanel(QPoint item = { 640, 2 })
+    {
+        if (!window("QuivraMac"))
+            return;
+        activateLaterAt(item.x(), item.y());
+        QTRY_VERIFY(!window("QuivraMac"));
+    }
+
+    QString menuPath()
+    {
+        QDBusMessage get =
+            QDBusMessage::createMethodCall(m_watcher.registered.constLast(), "/StatusNotifierItem",
+                                           "org.freedesktop.DBus.Properties", "Get");
+        get << "org.kde.StatusNotifierItem"
+            << "Menu";
+        const QDBusMessage reply = QDBusConnection::sessionBus().call(get);
+        return reply.arguments()
+            .value(0)
+            .value<QDBusVariant>()
+            .variant()
+            .value<QDBusObjectPath>()
+            .path();
+    }
+
+    QString menuLayout()
+    {
+        return run("dbus-send",
+                   { "--session", "--print-reply", "--dest=" + m_watcher.registered.constLast(),
+                     menuPath(), "com.canonical.dbusmenu.GetLayout", "int32:0", "int32:-1",
+                     "array:string:" });
+    }
+
+    // Clicks the menu entry with this label, as the desktop's menu does.
+    void chooseFromMenu(const QString &label)
+    {
+        const QString layout = menuLayout();
+        const qsizetype at = layout.indexOf(QStringLiteral("string \"%1\"").arg(label));
+        QVERIFY2(at > 0, qPrintable(label));
+        const qsizetype idAt = layout.lastIndexOf(QStringLiteral("int32 "), at);
+        const int id = layout.mid(idAt + 6).section('\n', 0, 0).trimmed().toInt();
+        QDBusMessage event = QDBusMessage::createMethodCall(
+            m_watcher.registered.constLast(), menuPath(), "com.canonical.dbusmenu", "Event");
+        event << id << QStringLiteral("clicked") << QVariant::fromValue(QDBusVariant(0)) << 0u;
+        const QDBusPendingCall pending = QDBusConnection::sessionBus().asyncCall(event);
+        QVERIFY(QTest::qWaitFor([&] { return pending.isFinished(); }, 30000));
+    }
+
     static void missing(const QString &why)
     {
         if (qEnvironmentVariableIntValue("QUIVRA_REQUIRE_E2E") == 1)
@@ -148,23 +216,9 @@ private Q_SLOTS:
 
     void itemOffersItsMenu()
     {
-        QDBusMessage get =
-            QDBusMessage::createMethodCall(m_watcher.registered.constLast(), "/StatusNotifierItem",
-                                           "org.freedesktop.DBus.Properties", "Get");
-        get << "org.kde.StatusNotifierItem"
-            << "Menu";
-        const QDBusMessage reply = QDBusConnection::sessionBus().call(get);
-        const QString path = reply.arguments()
-                                 .value(0)
-                                 .value<QDBusVariant>()
-                                 .variant()
-                                 .value<QDBusObjectPath>()
-                                 .path();
+        const QString path = menuPath();
         QVERIFY2(!path.isEmpty() && path != "/NO_DBUSMENU", qPrintable(path));
-        const QString layout =
-            run("dbus-send",
-                { "--session", "--print-reply", "--dest=" + m_watcher.registered.constLast(), path,
-                  "com.canonical.dbusmenu.GetLayout", "int32:0", "int32:-1", "array:string:" });
+        const QString layout = menuLayout();
         for (const char *label : { "Open", "Pair New Device", "Settings...", "Quit QuivraMac" })
             QVERIFY2(layout.contains(QStringLiteral("string \"%1\"").arg(label)), label);
     }
@@ -181,16 +235,52 @@ private Q_SLOTS:
     void activationPlacesPanelAtItsCorner()
     {
         QFETCH(QPoint, point);
-        activateAt(point.x(), point.y());
-        std::optional<QRect> panel;
-        QTRY_VERIFY_WITH_TIMEOUT((panel = window("QuivraMac")).has_value(), 10000);
+        const std::optional<QRect> panel = panelAfterActivationAt(point.x(), point.y());
+        QVERIFY(panel);
         QVERIFY2(QRect(0, 0, 1280, 800).contains(*panel), qPrintable(QDebug::toString(*panel)));
-        // The panel's corner nearest the point lies within a few pixels of it.
+        // The panel's corner nearest the point lies beside the item's cell around it.
         const QPoint corner(point.x() < 640 ? panel->left() : panel->right(),
                             point.y() < 400 ? panel->top() : panel->bottom());
-        QVERIFY2((corner - point).manhattanLength() <= 8, qPrintable(QDebug::toString(*panel)));
-        activateAt(point.x(), point.y());
+        QVERIFY2(std::abs(corner.x() - point.x()) <= 24 && std::abs(corner.y() - point.y()) <= 24,
+                 qPrintable(QDebug::toString(*panel)));
+        activateLaterAt(point.x(), point.y());
         QTRY_VERIFY(!window("QuivraMac"));
+    }
+
+    // Clicks anywhere on the same item open the panel in one place, and the menu's Open and
+    // `quivractl open` put it there too, wherever the pointer is by then.
+    void panelStaysWithTheItem()
+    {
+        const QPoint item(900, 2);
+        const std::optional<QRect> first = panelAfterActivationAt(item.x(), item.y());
+        QVERIFY(first);
+        closePanel(item);
+        const std::optional<QRect> second = panelAfterActivationAt(910, 9);
+        QVERIFY(second);
+        QCOMPARE(*second, *first);
+        closePanel(item);
+
+        run("xdotool", { "mousemove", "700", "300" });
+        chooseFromMenu("Open");
+        QTRY_COMPARE(window("QuivraMac").value_or(QRect()), *first);
+        closePanel(item);
+        QCOMPARE(testsupport::quivractl({ "open" }).first, 0);
+        QTRY_COMPARE(window("QuivraMac").value_or(QRect()), *first);
+        closePanel(item);
+    }
+
+    void doubleClickLeavesThePanelOpen()
+    {
+        closePanel();
+        QTest::qWait(doubleClickInterval + 100);
+        run("xdotool", { "mousemove", "900", "2" });
+        QCOMPARE(callItem("Activate", { 900, 2 }).type(), QDBusMessage::ReplyMessage);
+        QCOMPARE(callItem("Activate", { 900, 2 }).type(), QDBusMessage::ReplyMessage);
+        QTRY_VERIFY(window("QuivraMac"));
+        // Had the second click toggled, the panel would be gone by now.
+        QTest::qWait(500);
+        QVERIFY(window("QuivraMac"));
+        closePanel();
     }
 
     void panelBecomesWindowWhileWatcherIsGone()
@@ -214,8 +304,7 @@ private Q_SLOTS:
         QVERIFY(second.printed("QuivraMac is already running"));
         QTRY_VERIFY(window("QuivraMac"));
 
-        activateAt(640, 2);
-        QTRY_VERIFY(!window("QuivraMac"));
+        closePanel();
         QCOMPARE(testsupport::quivractl({ "open" }).first, 0);
         QTRY_VERIFY(window("QuivraMac"));
     }

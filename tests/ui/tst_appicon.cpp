@@ -1,6 +1,7 @@
 #include "appicon.h"
 #include "testsupport.h"
 
+#include <QDir>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,20 +21,24 @@ double luminance(QRgb rgb)
     return 0.2126 * linear(qRed(rgb)) + 0.7152 * linear(qGreen(rgb)) + 0.0722 * linear(qBlue(rgb));
 }
 
-// The icon drawn over a panel of one colour: for every pixel the icon covers more than half,
-// how far the result's luminance is from the panel's.
+// The WCAG contrast ratio, from 1:1 to 21:1, of every pixel the icon covers more than half
+// against the panel it is drawn on.
 QList<double> contrastOver(const QImage &icon, QColor panel)
 {
     QImage composite(icon.size(), QImage::Format_RGB32);
     composite.fill(panel);
     QPainter(&composite).drawImage(0, 0, icon);
-    QList<double> contrasts;
-    for (int y = 0; y < icon.height(); ++y)
-        for (int x = 0; x < icon.width(); ++x)
-            if (qAlpha(icon.pixel(x, y)) > 128)
-                contrasts.append(
-                    std::abs(luminance(composite.pixel(x, y)) - luminance(panel.rgb())));
-    return contrasts;
+    QList<double> ratios;
+    const double background = luminance(panel.rgb());
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            if (qAlpha(icon.pixel(x, y)) <= 128)
+                continue;
+            const double ink = luminance(composite.pixel(x, y));
+            ratios.append((std::max(ink, background) + 0.05) / (std::min(ink, background) + 0.05));
+        }
+    }
+    return ratios;
 }
 
 } // namespace
@@ -43,28 +48,27 @@ class TestAppIcon : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // Panels that show icons untinted may be black or white: the tray icon must stand out on both,
-    // on average by 0.4 of the luminance range and for at least three pixels in four.
-    void trayIconStandsOutOnDarkAndLightPanels()
+    // Panels that show icons as they are may be light or dark: at 22 px, at least 60% of what
+    // every tray drawing covers stands at 3:1 or more against both.
+    void trayDrawingsStandOutOnLightAndDarkPanels()
     {
-        for (const int side : { 22, 32 }) {
-            const QImage icon = appicon::render(appicon::tray(), side);
-            QVERIFY(!icon.isNull());
-            for (const QColor panel : { QColor(Qt::black), QColor(Qt::white) }) {
-                const QList<double> contrasts = contrastOver(icon, panel);
-                QVERIFY(contrasts.size() > side * side / 3);
-                const double mean =
-                    std::accumulate(contrasts.begin(), contrasts.end(), 0.0) / contrasts.size();
-                const auto strong = std::count_if(contrasts.begin(), contrasts.end(),
-                                                  [](double c) { return c >= 0.4; });
-                const QString figures = QStringLiteral("%1 px over %2: mean %3, %4% of pixels")
-                                            .arg(side)
-                                            .arg(panel.name())
-                                            .arg(mean, 0, 'f', 3)
-                                            .arg(100.0 * strong / contrasts.size(), 0, 'f', 1);
+        QStringList drawings = QDir(QStringLiteral(":/QuivraMac/Icons"))
+                                   .entryList({ QStringLiteral("*tray*.svg") }, QDir::Files);
+        QVERIFY2(drawings.size() >= 2, qPrintable(drawings.join(' ')));
+        for (const QString &name : std::as_const(drawings)) {
+            const QImage icon = appicon::render(":/QuivraMac/Icons/" + name, 22);
+            QVERIFY2(!icon.isNull(), qPrintable(name));
+            for (const QColor panel : { QColor(0xf6f5f4), QColor(0x2b2b2b) }) {
+                const QList<double> ratios = contrastOver(icon, panel);
+                const auto strong = std::count_if(ratios.begin(), ratios.end(),
+                                                  [](double ratio) { return ratio >= 3.0; });
+                const QString figures = QStringLiteral("%1 over %2: %3 of %4 pixels at 3:1")
+                                            .arg(name, panel.name())
+                                            .arg(strong)
+                                            .arg(ratios.size());
                 qInfo("%s", qPrintable(figures));
-                QVERIFY2(mean >= 0.4, qPrintable(figures));
-                QVERIFY2(strong * 4 >= contrasts.size() * 3, qPrintable(figures));
+                QVERIFY2(ratios.size() >= 22 * 22 / 8, qPrintable(figures));
+                QVERIFY2(strong * 10 >= ratios.size() * 6, qPrintable(figures));
             }
         }
     }

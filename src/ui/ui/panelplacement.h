@@ -13,6 +13,12 @@ namespace panelplacement {
 // edge so the panel's corner sits at the point.
 QPoint beside(const QRect &anchor, const QSize &panel, const QRect &available);
 
+// The tray item's cell around a pointer on a StatusNotifierItem host, which does not say where
+// its item is: a square as thick as the bar the pointer is on, across that bar. A pointer off
+// every bar (a menu entry under it) is taken onto the nearest one; with no bar reserved on the
+// screen, a square of fallbackSide around the pointer.
+QRect itemCell(QPoint pointer, const QRect &screen, const QRect &available, int fallbackSide);
+
 // Next to the window whose frame is `other`, on its right where there is room and else on its
 // left, top edges aligned; inside `available`.
 QPoint besideWindow(const QRect &other, const QSize &panel, const QRect &available);

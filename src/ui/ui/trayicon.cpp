@@ -5,12 +5,15 @@
 #include "platform/logging.h"
 #include "server/servermanager.h"
 #include "ui/formats.h"
+#include "ui/panelplacement.h"
 #include "ui/windowmanager.h"
 
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDateTime>
 #include <QGuiApplication>
+#include <QScreen>
+#include <QStyleHints>
 
 TrayIcon::TrayIcon(QuivraMacApp *app, ServerManager *manager, WindowManager *windows,
                    QObject *parent)
@@ -50,13 +53,23 @@ QString TrayIcon::iconName(bool hasCompletedOnboarding)
                                   : QStringLiteral("quivramac-setup-symbolic");
 }
 
-QIcon TrayIcon::icon(bool hasCompletedOnboarding)
+bool TrayIcon::trayRecoloursSymbolicIcons(bool statusNotifierItem, const QString &desktops)
 {
-    QIcon drawn;
-    const QString file = hasCompletedOnboarding ? appicon::tray() : appicon::setupSymbolic();
+    if (!statusNotifierItem)
+        return false;
+    const QStringList names = desktops.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    return names.contains(QLatin1String("KDE"), Qt::CaseInsensitive)
+        || names.contains(QLatin1String("GNOME"), Qt::CaseInsensitive);
+}
+
+QIcon TrayIcon::icon(bool hasCompletedOnboarding, bool recoloured)
+{
+    QIcon drawing;
+    const QString file = hasCompletedOnboarding ? appicon::tray() : appicon::setupTray();
     for (const int side : { 16, 22, 24, 32, 48, 64 })
-        drawn.addPixmap(QPixmap::fromImage(appicon::render(file, side)));
-    return QIcon::fromTheme(iconName(hasCompletedOnboarding), drawn);
+        drawing.addPixmap(QPixmap::fromImage(appicon::render(file, side)));
+    // A theme name would make hosts that draw icons as they are show the pale symbolic grey.
+    return recoloured ? QIcon::fromTheme(iconName(hasCompletedOnboarding), drawing) : drawing;
 }
 
 QString TrayIcon::toolTip(bool running, int port, int secondsLeft)
@@ -109,29 +122,69 @@ void TrayIcon::createItem()
 
 void TrayIcon::onActivated(QSystemTrayIcon::ActivationReason reason)
 {
-    if (reason != QSystemTrayIcon::Trigger)
+    if (reason != QSystemTrayIcon::Trigger && reason != QSystemTrayIcon::DoubleClick)
         return;
-    // A StatusNotifierItem host's activation point does not reach Qt; the pointer is where the
-    // item was clicked.
-    const QRect geometry = m_tray->geometry();
-    m_windows->togglePanel(geometry.isValid() ? geometry : QRect(QCursor::pos(), QSize(1, 1)));
+    m_cell = itemCell();
+    // Hosts that report a double-click as two activations must not close what the first opened.
+    const bool secondClick = reason == QSystemTrayIcon::DoubleClick
+        || (m_openedByClick.isValid()
+            && m_openedByClick.elapsed()
+                < QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    if (secondClick && m_windows->isPanelVisible())
+        return;
+    m_windows->togglePanel(m_cell);
+    if (m_windows->isPanelVisible())
+        m_openedByClick.start();
+    else
+        m_openedByClick.invalidate();
+}
+
+QRect TrayIcon::itemCell() const
+{
+    const QRect geometry = m_tray ? m_tray->geometry() : QRect();
+    if (geometry.isValid())
+        return geometry;
+    // A StatusNotifierItem host's activation point does not reach Qt: the pointer is where the
+    // item was clicked, and a click anywhere on the same item keeps its panel where it was.
+    const QPoint pointer = QCursor::pos();
+    if (m_cell.contains(pointer))
+        return m_cell;
+    const QScreen *screen = QGuiApplication::screenAt(pointer);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    constexpr int usualItemSide = 24;
+    return panelplacement::itemCell(pointer, screen->geometry(), screen->availableGeometry(),
+                                    usualItemSide);
 }
 
 void TrayIcon::openPanel()
 {
-    const QQuickWindow *panel = m_windows->window(QStringLiteral("panel"));
-    if (panel && panel->isVisible())
-        m_windows->open(QStringLiteral("panel"));
-    else if (m_shown)
-        onActivated(QSystemTrayIcon::Trigger);
-    else
+    if (!m_shown) {
         m_windows->openPanelAsWindow();
+        return;
+    }
+    // A menu entry lies off the item: the panel goes where the item was last activated.
+    if (!m_cell.isValid())
+        m_cell = itemCell();
+    m_windows->popOver(m_cell);
+}
+
+void TrayIcon::showPanel()
+{
+    const QQuickWindow *setup = m_windows->window(QStringLiteral("onboarding"));
+    if (setup && setup->isVisible())
+        m_windows->open(QStringLiteral("onboarding"));
+    else
+        openPanel();
 }
 
 void TrayIcon::updateIcon()
 {
     if (m_tray)
-        m_tray->setIcon(icon(m_app->hasCompletedOnboarding()));
+        m_tray->setIcon(
+            icon(m_app->hasCompletedOnboarding(),
+                 trayRecoloursSymbolicIcons(m_statusNotifierItem,
+                                            qEnvironmentVariable("XDG_CURRENT_DESKTOP"))));
 }
 
 void TrayIcon::updateToolTip()

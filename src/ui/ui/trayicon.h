@@ -2,6 +2,7 @@
 
 #include "platform/trayhost.h"
 
+#include <QElapsedTimer>
 #include <QIcon>
 #include <QMenu>
 #include <QObject>
@@ -29,11 +30,18 @@ public:
 
     // A tray shows the item.
     bool isShown() const { return m_shown; }
+    // For a request from outside the tray (a second launch, `quivractl open`): the first-run
+    // window while it is open, else the panel where the item was last activated.
+    void showPanel();
 
     // The theme's name for the symbol; the desktop recolours "-symbolic" icons for its panel.
     static QString iconName(bool hasCompletedOnboarding);
-    // That name, with drawings in a mid tone for panels that show pixels as they are.
-    static QIcon icon(bool hasCompletedOnboarding);
+    // Whether the tray recolours symbolic icons to suit its panel: StatusNotifierItem hosts of
+    // the desktops known to (KDE, GNOME). Others, and every XEmbed tray, show pixels as they are.
+    static bool trayRecoloursSymbolicIcons(bool statusNotifierItem, const QString &desktops);
+    // The themed symbol for a tray that recolours it where the theme has it (installed), else
+    // drawings in a mid tone that read on light and dark panels alike.
+    static QIcon icon(bool hasCompletedOnboarding, bool recoloured);
     // The server's state and, while pairing (secondsLeft >= 0), the code's time left.
     static QString toolTip(bool running, int port, int secondsLeft);
 
@@ -44,6 +52,8 @@ private:
     void followHost();
     void createItem();
     void onActivated(QSystemTrayIcon::ActivationReason reason);
+    // Where the item is: its geometry where the tray says, else the cell under the pointer.
+    QRect itemCell() const;
     void openPanel();
     void updateIcon();
     void updateToolTip();
@@ -61,4 +71,9 @@ private:
     bool m_followed = false;
     bool m_everShown = false;
     QTimer m_pairingTick;
+    // The item's cell at its last activation, where the menu's entries open the panel too.
+    QRect m_cell;
+    // Since an activation last opened the panel: a second click within the double-click
+    // interval leaves it open.
+    QElapsedTimer m_openedByClick;
 };

@@ -80,20 +80,30 @@ void WindowManager::open(const QString &id)
 
 void WindowManager::togglePanel(const QRect &anchor)
 {
+    if (isPanelVisible())
+        window(QStringLiteral("panel"))->hide();
+    else
+        popOver(anchor);
+}
+
+bool WindowManager::isPanelVisible() const
+{
+    const QQuickWindow *panel = window(QStringLiteral("panel"));
+    return panel && panel->isVisible();
+}
+
+void WindowManager::popOver(const QRect &anchor)
+{
     QQuickWindow *panel = create(QStringLiteral("panel"));
     if (!panel)
         return;
-    if (panel->isVisible()) {
-        panel->hide();
-        return;
-    }
     if (!canPlaceWindows()) {
         openPanelAsWindow();
         return;
     }
     panel->setProperty("popover", true);
     // Hidden a moment ago, it still counts as active until X11's late report of the focus loss.
-    panel->setProperty("staleFocusLoss", panel->isActive());
+    panel->setProperty("staleFocusLoss", !panel->isVisible() && panel->isActive());
     const QScreen *screen = QGuiApplication::screenAt(anchor.center());
     if (!screen)
         screen = QGuiApplication::primaryScreen();
@@ -121,15 +131,6 @@ void WindowManager::closePanelWindow()
     QQuickWindow *panel = window(QStringLiteral("panel"));
     if (panel && !panel->property("popover").toBool())
         panel->close();
-}
-
-void WindowManager::showPanel()
-{
-    const QQuickWindow *setup = window(QStringLiteral("onboarding"));
-    if (setup && setup->isVisible())
-        open(QStringLiteral("onboarding"));
-    else
-        openPanelAsWindow();
 }
 
 bool WindowManager::canPlaceWindows()

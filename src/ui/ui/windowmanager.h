@@ -27,16 +27,16 @@ public:
 
     // Shows the window, raises it and gives it focus.
     void open(const QString &id);
-    // The panel as a pop-over beside the tray icon's geometry or the point where the tray was
-    // activated; where windows cannot place themselves (Wayland), as a small ordinary window.
+    // The panel as a pop-over beside the tray item's cell, or hidden when it shows; where windows
+    // cannot place themselves (Wayland), as a small ordinary window.
     void togglePanel(const QRect &anchor);
+    // The same, shown (and moved beside the anchor) whether or not it already shows.
+    void popOver(const QRect &anchor);
+    bool isPanelVisible() const;
     // The panel as a small ordinary window, beside the first-run window when that is open.
     void openPanelAsWindow();
     // The panel's window, when it is not a pop-over: a tray appeared and takes its place.
     void closePanelWindow();
-    // For a request from outside the tray: the first-run window while it is open, else the panel
-    // as a window.
-    void showPanel();
     // False on Wayland, where the compositor places every window.
     static bool canPlaceWindows();
     QQuickWindow *window(const QString &id) const { return m_windows.value(id); }
