@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRandomGenerator>
 
 #include <unordered_set>
 
@@ -164,7 +163,7 @@ private Q_SLOTS:
 
     void mutatedInputNeverCrashesOrHalfDecodes()
     {
-        QRandomGenerator random(QRandomGenerator::global()->generate());
+        QRandomGenerator &random = testsupport::random();
         const Host host = fullHost();
         const Project project = fullProject(host.id);
         const QList<QJsonObject> seeds { encode(host), encode(project), encode(session(project)),
