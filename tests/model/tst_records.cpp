@@ -117,6 +117,17 @@ private Q_SLOTS:
         QTest::newRow("port as text")
             << "host"
             << "etPort" << QJsonValue("2022") << int(DecodeError::WrongType) << "etPort";
+        // Found by fuzz/records.cpp: the number was converted to qint64 (undefined) before the
+        // refusal, and times beyond any date decoded to ones that did not survive a round trip.
+        QTest::newRow("port beyond qint64")
+            << "host"
+            << "sshPort" << QJsonValue(2.9e33) << int(DecodeError::WrongType) << "sshPort";
+        QTest::newRow("time beyond any date") << "host"
+                                              << "lastConnected" << QJsonValue(1e300)
+                                              << int(DecodeError::WrongType) << "lastConnected";
+        QTest::newRow("time before any date")
+            << "session"
+            << "createdAt" << QJsonValue(-2e12) << int(DecodeError::WrongType) << "createdAt";
     }
     void decodingFailuresNameTheField()
     {
