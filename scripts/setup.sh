@@ -10,6 +10,8 @@ packages=(
     libavahi-compat-libdnssd-dev qt6-declarative-dev qt6-svg-dev libxcb1-dev
     # the checks the test command makes: formatting and the views' lint
     clang-format qt6-declarative-dev-tools
+    # the sanitizer and fuzzing build: clang with libFuzzer and the sanitizers' runtimes
+    clang libclang-rt-14-dev
     # the windows' QML modules
     qml6-module-qtqml qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
     qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtqml-workerscript

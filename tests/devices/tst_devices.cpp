@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QStandardPaths>
 
 #include <sys/stat.h>
@@ -258,7 +257,7 @@ private Q_SLOTS:
 
         int old = 0, rewritten = 0;
         for (int run = 0; run < 300; ++run) {
-            revoke([&] { return QRandomGenerator::global()->bounded(span); });
+            revoke([&] { return testsupport::random().bounded(span); });
             QVERIFY(!QTest::currentTestFailed());
             const QByteArray now = contents(keysFile());
             QVERIFY2(now == before || now == after, qPrintable(QString("run %1").arg(run)));

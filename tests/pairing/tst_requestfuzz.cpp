@@ -42,11 +42,9 @@ QByteArray mutate(QByteArray input, QRandomGenerator &random)
     return input.left(6000);
 }
 
-// No reply, or exactly one complete reply of the two forms the listener sends.
+// Exactly one complete reply of the two forms the listener sends.
 bool wellFormed(const QByteArray &reply)
 {
-    if (reply.isEmpty())
-        return true;
     static const QRegularExpression form(
         "^HTTP/1\\.1 [0-9]{3} [A-Za-z ]+\r\nContent-Type: (text/plain|application/json)\r\n"
         "Content-Length: ([0-9]+)\r\n(Access-Control-Allow-Origin: \\*\r\n)?Connection: "
@@ -56,6 +54,15 @@ bool wellFormed(const QByteArray &reply)
         && reply.size() - match.capturedLength() == match.captured(2).toLongLong();
 }
 
+// The listener closes without a word only where it has no request to answer: nothing arrived,
+// or what it reads (up to its limit) is not UTF-8. Every other input gets its reply.
+bool answeredAsItShould(const QByteArray &input, const QByteArray &reply)
+{
+    const QByteArray read = input.left(PairingConnection::maxRequestBytes);
+    if (read.isEmpty() || !QByteArrayView(read).isValidUtf8())
+        return reply.isEmpty();
+    return wellFormed(reply);
+}
 } // namespace
 
 class TestRequestFuzz : public QObject
@@ -63,16 +70,12 @@ class TestRequestFuzz : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyInputGetsNothingOrOneWellFormedReply()
+    void everyReadableInputGetsOneWellFormedReply()
     {
         const int iterations = qEnvironmentVariableIntValue("QUIVRA_FUZZ_ITERATIONS") > 0
             ? qEnvironmentVariableIntValue("QUIVRA_FUZZ_ITERATIONS")
             : 1200;
-        const quint32 seed = qEnvironmentVariableIsSet("QUIVRA_FUZZ_SEED")
-            ? qEnvironmentVariable("QUIVRA_FUZZ_SEED").toUInt()
-            : QRandomGenerator::system()->generate();
-        qInfo("seed %u (set QUIVRA_FUZZ_SEED to repeat), %d inputs", seed, iterations);
-        QRandomGenerator random(seed);
+        QRandomGenerator &random = testsupport::random();
         PairingFixture fixture;
         const QList<QHostAddress> sources = loopbackSources(8);
         constexpr int batch = 32;
@@ -92,9 +95,13 @@ private Q_SLOTS:
             for (int i = 0; i < batch; ++i)
                 inputs.append(mutate(seeds[random.bounded(int(seeds.size()))], random));
             const QList<QByteArray> replies = exchangeAll(fixture.port(), inputs, sources);
+            // A pairing stops the listener, which closes the connections it is still reading.
+            const bool paired = std::any_of(replies.cbegin(), replies.cend(), [](auto &reply) {
+                return reply.endsWith("\r\n\r\nPaired Successfully");
+            });
             for (qsizetype i = 0; i < inputs.size(); ++i)
                 QVERIFY2(
-                    wellFormed(replies[i]),
+                    answeredAsItShould(inputs[i], replies[i]) || (paired && replies[i].isEmpty()),
                     QByteArray("input " + inputs[i].toBase64() + " got " + replies[i].toBase64())
                         .constData());
         }

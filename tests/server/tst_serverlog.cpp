@@ -3,7 +3,6 @@
 #include "server/serverlog.h"
 #include "testsupport.h"
 
-#include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QTextBoundaryFinder>
 #include <QThread>
@@ -80,7 +79,7 @@ private Q_SLOTS:
                                    QStringLiteral("\U0001F1E9"), // a regional indicator
                                    // Not a ZWJ sequence: Qt 6.4 stops pairing flags after one.
                                    QStringLiteral("\U0001F44D\U0001F3FD") };
-        QRandomGenerator random(7);
+        QRandomGenerator &random = testsupport::random();
         for (int round = 0; round < 40; ++round) {
             const qsizetype limit = 1 + random.bounded(300);
             ServerLog log(limit);

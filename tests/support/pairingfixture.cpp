@@ -1,7 +1,6 @@
 #include "pairingfixture.h"
 
 #include <QDir>
-#include <QRandomGenerator>
 #include <QTcpSocket>
 
 namespace testsupport {
@@ -84,7 +83,7 @@ QByteArray randomBytes(int count)
 {
     QByteArray bytes(count, 0);
     for (char &b : bytes)
-        b = char(QRandomGenerator::global()->generate());
+        b = char(random().generate());
     return bytes;
 }
 

@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QTcpServer>
 
+#include <cstdio>
+
 namespace testsupport {
 
 bool speaksOfAMac(QString text)
@@ -23,6 +25,20 @@ QString isolateHome()
     qputenv("XDG_CACHE_HOME", (path + QStringLiteral("/.cache")).toUtf8());
     QStandardPaths::setTestModeEnabled(true);
     return path;
+}
+
+QRandomGenerator &random()
+{
+    static QRandomGenerator generator = [] {
+        bool given = false;
+        quint32 seed = qEnvironmentVariable("QUIVRA_TEST_SEED").toUInt(&given);
+        if (!given)
+            seed = QRandomGenerator::system()->generate();
+        // Straight to stderr: the test log shows it with a failure, whatever the logging rules.
+        std::fprintf(stderr, "Random seed %u: QUIVRA_TEST_SEED=%u repeats this run\n", seed, seed);
+        return QRandomGenerator(seed);
+    }();
+    return generator;
 }
 
 bool GuardedProcessTable::signal(qint64 pid, int signalNumber)

@@ -4,6 +4,7 @@
 #include "platform/processtable.h"
 #include "server/serverenvironment.h"
 
+#include <QRandomGenerator>
 #include <QSet>
 #include <QStringList>
 #include <QTcpSocket>
@@ -15,6 +16,10 @@ namespace testsupport {
 // Points HOME, the XDG directories and QStandardPaths at a fresh temporary directory, so that no
 // test reads or writes the real user's files. Called before the application object exists.
 QString isolateHome();
+
+// The one source of randomness a test program draws on. Its seed is printed when first drawn,
+// and taken from QUIVRA_TEST_SEED when that is set, so that a failed run can be repeated.
+QRandomGenerator &random();
 
 // Whether a text names a Mac where this platform says "computer": anything but the product's
 // name and the phone's own "Add Mac" button.

@@ -103,26 +103,30 @@ void PairingListener::stop()
 
 void PairingListener::acceptConnections()
 {
-    while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-        auto *connection = new PairingConnection(socket, m_readDeadline);
-        const QString address = connection->peerAddress();
-        qCInfo(lcConsole).nospace().noquote()
-            << QStringLiteral("[PairingListener] New connection from ") + connection->peer();
-        qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Connection state: ready";
-        if (!makeRoomFor(address)) {
-            connection->close();
-            continue;
-        }
-        m_connections.append(connection);
-        ++m_connectionsPerAddress[address];
-        connect(connection, &PairingConnection::closed, this, [this, connection, address] {
-            m_connections.removeOne(connection);
-            if (--m_connectionsPerAddress[address] == 0)
-                m_connectionsPerAddress.remove(address);
-        });
-        connect(connection, &PairingConnection::requestReceived, this,
-                [this, connection](const QString &request) { handleRequest(request, connection); });
+    while (QTcpSocket *socket = m_server.nextPendingConnection())
+        adopt(socket);
+}
+
+void PairingListener::adopt(QTcpSocket *socket)
+{
+    auto *connection = new PairingConnection(socket, m_readDeadline);
+    const QString address = connection->peerAddress();
+    qCInfo(lcConsole).nospace().noquote()
+        << QStringLiteral("[PairingListener] New connection from ") + connection->peer();
+    qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Connection state: ready";
+    if (!makeRoomFor(address)) {
+        connection->close();
+        return;
     }
+    m_connections.append(connection);
+    ++m_connectionsPerAddress[address];
+    connect(connection, &PairingConnection::closed, this, [this, connection, address] {
+        m_connections.removeOne(connection);
+        if (--m_connectionsPerAddress[address] == 0)
+            m_connectionsPerAddress.remove(address);
+    });
+    connect(connection, &PairingConnection::requestReceived, this,
+            [this, connection](const QString &request) { handleRequest(request, connection); });
 }
 
 // Bounded, so that a flood of idle sockets cannot exhaust the process: one machine gets a few

@@ -54,6 +54,10 @@ public:
     // Set by the owner before start(). The key callback answers whether the key is stored.
     std::function<bool(const QString &publicKey)> onKeyReceived;
     std::function<void(const PairingResult &result)> onPairingSuccess;
+    // Serves a connected socket as if this listener had accepted it. The fuzz target hands in
+    // sockets that replay bytes from memory: its inputs meet the same reading, limits and
+    // routing as a phone's, thousands a second and without a network.
+    void adopt(QTcpSocket *socket);
 
 Q_SIGNALS:
     // The name the DNS-SD daemon registered (tests and the log wait for it).

@@ -149,7 +149,7 @@ void ServerManager::stopServer()
         << QStringLiteral("[QuivraMac] Stopping server (PID %1)...").arg(m_process.pid());
     stopPairingListener();
     // Returns as soon as the child exits; 20 steps of 100 ms at the most.
-    m_process.stop(std::chrono::milliseconds(2000), [this] {
+    m_process.stop(std::chrono::milliseconds(2000), [] {
         qCInfo(lcLog).nospace().noquote()
             << "[QuivraMac] Force killing server (didn't exit gracefully)";
     });

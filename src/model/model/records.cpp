@@ -72,7 +72,8 @@ public:
         const double number = value.toDouble();
         if (!error && (std::trunc(number) != number || std::abs(number) > 9.007199254740992e15))
             fail(DecodeError::WrongType, key);
-        return qint64(number);
+        // Converting a number beyond qint64 is undefined, so a refused one is not converted.
+        return error ? 0 : qint64(number);
     }
     QUuid uuid(const char *key)
     {
@@ -83,11 +84,11 @@ public:
             fail(DecodeError::InvalidUuid, key);
         return QUuid::fromString(text);
     }
-    QDateTime time(const char *key) { return fromValue(required(key, QJsonValue::Double)); }
+    QDateTime time(const char *key) { return fromValue(required(key, QJsonValue::Double), key); }
     std::optional<QDateTime> optionalTime(const char *key)
     {
         const auto value = optional(key, QJsonValue::Double);
-        return value ? std::optional(fromValue(*value)) : std::nullopt;
+        return value ? std::optional(fromValue(*value, key)) : std::nullopt;
     }
     template<typename Enum> Enum raw(const char *key, std::optional<Enum> (*parse)(const QString &))
     {
@@ -101,12 +102,15 @@ public:
     void fail(DecodeError::Kind kind, const char *key) { error = DecodeError { kind, path(key) }; }
 
 private:
-    QDateTime fromValue(const QJsonValue &value)
+    // Within about 31,000 years of the reference date, where a time in milliseconds survives the
+    // trip through a double and back exactly; beyond, it is no real date.
+    QDateTime fromValue(const QJsonValue &value, const char *key)
     {
+        constexpr double maxSeconds = 1e12;
         const double seconds = value.toDouble();
-        if (!error && !std::isfinite(seconds))
-            error = DecodeError { DecodeError::WrongType, m_prefix };
-        return referenceDate.addMSecs(std::llround(seconds * 1000.0));
+        if (!error && !(std::abs(seconds) <= maxSeconds))
+            fail(DecodeError::WrongType, key);
+        return error ? QDateTime() : referenceDate.addMSecs(std::llround(seconds * 1000.0));
     }
 
     QJsonObject m_object;
