@@ -286,7 +286,7 @@ private Q_SLOTS:
                   text({ key("user"), "", appComment, key("old"), key("a"), key("b") }));
         const QDateTime t(QDate(2025, 3, 1), QTime(10, 0), Qt::UTC);
         {
-            DeviceRegistry registry(support);
+            DeviceRegistry registry(support, QDir::homePath());
             QCOMPARE(registry.devices().size(), 1);
             QCOMPARE(contents(support + "/devices.json"), "{ not json");
             QVERIFY(!registry.record("Ann's iPhone", key("a"), "192.168.1.20", t));
@@ -296,7 +296,7 @@ private Q_SLOTS:
         QCOMPARE(contents(support + "/devices.json.bad"), "{ not json");
         QCOMPARE(modeOf(support + "/devices.json"), 0600);
 
-        DeviceRegistry registry(support);
+        DeviceRegistry registry(support, QDir::homePath());
         const QList<PairedDevice> devices = registry.devices();
         QCOMPARE(
             names(devices),
@@ -317,7 +317,7 @@ private Q_SLOTS:
     {
         const QString support = QDir::homePath() + "/support-revoke";
         writeFile(keysFile(), text({ appComment, key("old"), key("a"), key("b"), key("c") }));
-        DeviceRegistry registry(support);
+        DeviceRegistry registry(support, QDir::homePath());
         const QDateTime t = QDateTime::currentDateTimeUtc();
         QVERIFY(!registry.record("iPhone", key("a"), {}, t));
         QVERIFY(!registry.record("IPHONE", key("b"), {}, t));
