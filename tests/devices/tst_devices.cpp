@@ -215,12 +215,20 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(keysFile()) && QDir().mkdir(keysFile()));
         QVERIFY(refusal().contains("not a regular file"));
         QVERIFY(QDir().rmdir(keysFile()));
+        // The same rules as for adding a key: a file others may change is not the app's to touch.
+        writeFile(keysFile(), before);
+        QVERIFY(QFile::setPermissions(keysFile(),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup
+                                          | QFile::WriteGroup));
+        QVERIFY(refusal().contains("writable by others (mode 660)"));
+        QCOMPARE(contents(keysFile()), before);
+        QVERIFY(QFile::remove(keysFile()));
 
         if (::getuid() != 0)
             QSKIP("Giving a file to another user needs root");
         writeFile(keysFile(), before);
         QCOMPARE(::chown(QFile::encodeName(keysFile()), 65534, 65534), 0);
-        QVERIFY(refusal().contains("not owned by you"));
+        QVERIFY(refusal().contains("owned by someone else"));
         QCOMPARE(contents(keysFile()), before);
     }
 
