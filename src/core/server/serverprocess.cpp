@@ -15,6 +15,8 @@ ServerProcess::ServerProcess(std::chrono::milliseconds uptimeTick, QObject *pare
     m_uptimeTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_uptimeTimer, &QTimer::timeout, this, &ServerProcess::refreshUptime);
     m_killTimer.setSingleShot(true);
+    // A coarse timer may fire up to 5% early, and the grace is a promise to the server.
+    m_killTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_killTimer, &QTimer::timeout, this, [this] {
         if (!m_process || m_process->state() == QProcess::NotRunning)
             return;
