@@ -108,8 +108,8 @@ struct Harness
         listener = std::make_unique<PairingListener>(setup);
         // Anything the fuzzer does not send at once has arrived in full.
         listener->setReadDeadline(std::chrono::milliseconds(0));
-        listener->onKeyReceived = [this](const QString &key) {
-            storedKeys.append(key);
+        listener->onPairingRequest = [this](const PairingResult &result) {
+            storedKeys.append(result.publicKey);
             return true;
         };
     }

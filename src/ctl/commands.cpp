@@ -36,7 +36,7 @@ QTextStream &err()
     return stream;
 }
 
-// How long start waits for the server to accept connections.
+// How long start waits for the server to accept connections, and stop for it to end.
 constexpr qint64 startDeadlineMs = 5000;
 
 int failedCall(const ControlClient &client)
@@ -125,6 +125,23 @@ int stop(ControlClient &client)
 {
     if (!client.call(QStringLiteral("StopServer")))
         return failedCall(client);
+    // The app stops it without waiting: SIGTERM, and SIGKILL after 2 s.
+    if (client.property("isRunning").toBool()) {
+        QEventLoop loop;
+        QObject::connect(&client, &ControlClient::propertyChanged,
+                         [&](const QString &name, const QVariant &value) {
+                             if (name == QLatin1String("isRunning") && !value.toBool())
+                                 loop.quit();
+                         });
+        QTimer::singleShot(startDeadlineMs, &loop, &QEventLoop::quit);
+        if (client.property("isRunning").toBool())
+            loop.exec();
+    }
+    if (client.property("isRunning").toBool()) {
+        err() << "The server did not stop within " << startDeadlineMs / 1000
+              << " s; see quivractl logs" << Qt::endl;
+        return Failed;
+    }
     out() << "Server stopped" << Qt::endl;
     return Success;
 }
@@ -142,7 +159,6 @@ int pair(ControlClient &client)
         err() << Qt::endl;
         return Failed;
     }
-    const QString before = client.property("lastPairedDevice").toString();
     if (!client.property("isPairing").toBool() && !client.call(QStringLiteral("TogglePairingMode")))
         return failedCall(client);
     const QString address = client.property("localIP").toString();
@@ -174,31 +190,29 @@ int pair(ControlClient &client)
                   << Qt::flush;
     });
     countdown.start(1000);
-    QObject::connect(&client, &ControlClient::propertyChanged, [&](const QString &name) {
-        if (name == QLatin1String("pairingExpiresAt")) {
-            // Renewed elsewhere (the setup window): the new code replaces the old one.
-            expiresAt = client.property("pairingExpiresAt").toLongLong();
-            showCode(client.property("pairingToken").toString());
-            return;
-        }
-        if (name != QLatin1String("isPairing") && name != QLatin1String("lastPairedDevice"))
-            return;
-        // The app finishes a pairing in one step, so by the time it answers this read its
-        // paired device is final.
-        const QString device = client.property("lastPairedDevice").toString();
-        if (!device.isEmpty() && device != before) {
-            out() << (terminal ? "\n" : "") << "Paired with " << device << Qt::endl;
-            result = Success;
-            QCoreApplication::quit();
-        } else if (!client.property("isPairing").toBool()) {
+    QObject::connect(&client, &ControlClient::paired, [&](const QString &device) {
+        out() << (terminal ? "\n" : "") << "Paired with " << device << Qt::endl;
+        result = Success;
+        QCoreApplication::quit();
+    });
+    QObject::connect(
+        &client, &ControlClient::propertyChanged, [&](const QString &name, const QVariant &value) {
+            if (name == QLatin1String("pairingExpiresAt")) {
+                // Renewed elsewhere (the setup window): the new code replaces the old one.
+                expiresAt = client.property("pairingExpiresAt").toLongLong();
+                showCode(client.property("pairingToken").toString());
+                return;
+            }
+            // A pairing switches pairing mode off too, but its Paired signal comes first.
+            if (name != QLatin1String("isPairing") || value.toBool() || result == Success)
+                return;
             const bool expired = expiresAt <= QDateTime::currentMSecsSinceEpoch();
             err() << (terminal ? "\n" : "")
                   << (expired ? "The pairing code expired." : "Pairing mode was switched off.")
                   << Qt::endl;
             result = Failed;
             QCoreApplication::quit();
-        }
-    });
+        });
     platform::quitOnTerminationSignals(*QCoreApplication::instance());
     QCoreApplication::exec();
     if (result != Success && client.property("isPairing").toBool())

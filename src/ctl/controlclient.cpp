@@ -16,6 +16,17 @@ ControlClient::ControlClient()
         QString::fromLatin1(ControlService::objectPath),
         QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"),
         this, SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+    QDBusConnection::sessionBus().connect(QString::fromLatin1(ControlService::serviceName),
+                                          QString::fromLatin1(ControlService::objectPath),
+                                          QString::fromLatin1(ControlService::interfaceName),
+                                          QStringLiteral("Paired"), this,
+                                          SLOT(onPaired(QString, QString, QString, QString)));
+}
+
+void ControlClient::onPaired(const QString &name, const QString &fingerprint, const QString &,
+                             const QString &)
+{
+    Q_EMIT paired(name, fingerprint);
 }
 
 QString ControlClient::unreachableReason() const

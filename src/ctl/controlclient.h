@@ -26,10 +26,14 @@ public:
 
 Q_SIGNALS:
     void propertyChanged(const QString &name, const QVariant &value);
+    // A phone has paired: its name and its key's fingerprint.
+    void paired(const QString &name, const QString &fingerprint);
 
 private Q_SLOTS:
     void onPropertiesChanged(const QString &interface, const QVariantMap &changed,
                              const QStringList &invalidated);
+    void onPaired(const QString &name, const QString &fingerprint, const QString &pairedAt,
+                  const QString &address);
 
 private:
     QDBusInterface m_interface;

@@ -1,4 +1,5 @@
 #include "appbundle.h"
+#include "devices/sshkey.h"
 #include "pairingfixture.h"
 #include "phoneclient.h"
 #include "testsupport.h"
@@ -6,6 +7,7 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusInterface>
+#include <QJsonDocument>
 
 #include <csignal>
 
@@ -67,19 +69,33 @@ private Q_SLOTS:
         QVERIFY(bus.registerService("org.freedesktop.Notifications"));
         QVERIFY(bus.registerObject("/org/freedesktop/Notifications", &notifications,
                                    QDBusConnection::ExportAllSlots));
+        QVERIFY(bus.connect("org.quivra.QuivraMac", "/ServerManager",
+                            "org.quivra.QuivraMac.ServerManager", "Paired", this,
+                            SLOT(onPaired(QString, QString, QString, QString))));
         QDBusInterface app = manager();
         QTRY_VERIFY(app.property("isRunning").toBool());
-        if (!app.property("isPairing").toBool())
-            app.call("TogglePairingMode");
-        const QByteArray key = testsupport::ed25519Key("phone");
-        const QByteArray reply = testsupport::exchange(
-            8080,
-            "POST /pair?token=" + app.property("pairingToken").toString().toLatin1()
-                + " HTTP/1.1\r\nX-Device-Name: Ana's iPhone\r\n\r\n" + key);
-        QVERIFY2(reply.endsWith("Paired Successfully"), reply.constData());
-        QTRY_COMPARE(notifications.shown.size(), 1);
-        QVERIFY(notifications.shown.at(0).startsWith("Paired with Ana's iPhone | "));
-        QVERIFY(notifications.shown.at(0).contains("SHA256:"));
+        // Two phones one after the other, on the one listener: each announcement names the key
+        // of its own pairing, not the phone paired before it.
+        QStringList fingerprints;
+        for (const QString name : { "Ana's iPhone", "Ben's iPhone" }) {
+            if (!app.property("isPairing").toBool())
+                app.call("TogglePairingMode");
+            const QByteArray key = testsupport::ed25519Key("phone");
+            fingerprints.append(SshKey::fromLine(key)->fingerprint());
+            const QByteArray reply = testsupport::exchange(
+                8080,
+                "POST /pair?token=" + app.property("pairingToken").toString().toLatin1()
+                    + " HTTP/1.1\r\nX-Device-Name: " + name.toUtf8() + "\r\n\r\n" + key);
+            QVERIFY2(reply.endsWith("Paired Successfully"), reply.constData());
+            QTRY_COMPARE(notifications.shown.size(), fingerprints.size());
+            QVERIFY(notifications.shown.constLast().startsWith("Paired with " + name + " | "));
+            QVERIFY2(notifications.shown.constLast().endsWith(" " + fingerprints.constLast()),
+                     qPrintable(notifications.shown.constLast()));
+            QTRY_COMPARE(m_paired.size(), fingerprints.size());
+            QCOMPARE(m_paired.constLast(), name + " " + fingerprints.constLast());
+        }
+        QCOMPARE(app.property("lastPairedDevice").toString(), "Ben's iPhone");
+        QVERIFY(quivractl({ "revoke", "--yes", "Ben's iPhone" }).first == 0);
 
         QVERIFY(quivractl({ "devices" }).second.contains("Ana's iPhone"));
         QCOMPARE(quivractl({ "revoke" }).first, 2); // which phone?
@@ -87,7 +103,6 @@ private Q_SLOTS:
         QCOMPARE(quivractl({ "revoke", "--yes", "ana's iphone" }).first, 0);
         QVERIFY(quivractl({ "devices" }).second.contains("No paired phones."));
         bus.unregisterService("org.freedesktop.Notifications");
-        app.call("StartServer"); // the listener ends with a pairing
     }
 
     void methodsChangeTheSameStateAsThePanel()
@@ -95,8 +110,14 @@ private Q_SLOTS:
         QDBusInterface app = manager();
         QTRY_VERIFY(app.property("isRunning").toBool());
         app.call("StopServer");
-        QVERIFY(!app.property("isRunning").toBool());
+        QTRY_VERIFY(!app.property("isRunning").toBool());
         QVERIFY(quivractl({ "status" }).second.contains("Server:       stopped"));
+        // The phone still hears why this computer is not ready.
+        const QJsonDocument report = QJsonDocument::fromJson(
+            testsupport::replyBody(testsupport::exchange(8080, "GET /status HTTP/1.1\r\n\r\n")));
+        QCOMPARE(report["ready"], false);
+        QCOMPARE(report["diagnostics"][3]["id"], "etserver");
+        QCOMPARE(report["diagnostics"][3]["passed"], false);
         const auto [code, started] = quivractl({ "start" });
         QCOMPARE(code, 0);
         QCOMPARE(started.trimmed(), "Server running, accepting connections on port 2022");
@@ -148,9 +169,14 @@ public Q_SLOTS:
     {
         m_announced += changed.keys();
     }
+    void onPaired(const QString &name, const QString &fingerprint, const QString &, const QString &)
+    {
+        m_paired.append(name + " " + fingerprint);
+    }
 
 private:
     QStringList m_announced;
+    QStringList m_paired;
 };
 
 QUIVRA_TEST_MAIN(TestControl)

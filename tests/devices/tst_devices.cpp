@@ -214,12 +214,20 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(keysFile()) && QDir().mkdir(keysFile()));
         QVERIFY(refusal().contains("not a regular file"));
         QVERIFY(QDir().rmdir(keysFile()));
+        // The same rules as for adding a key: a file others may change is not the app's to touch.
+        writeFile(keysFile(), before);
+        QVERIFY(QFile::setPermissions(keysFile(),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup
+                                          | QFile::WriteGroup));
+        QVERIFY(refusal().contains("writable by others (mode 660)"));
+        QCOMPARE(contents(keysFile()), before);
+        QVERIFY(QFile::remove(keysFile()));
 
         if (::getuid() != 0)
             QSKIP("Giving a file to another user needs root");
         writeFile(keysFile(), before);
         QCOMPARE(::chown(QFile::encodeName(keysFile()), 65534, 65534), 0);
-        QVERIFY(refusal().contains("not owned by you"));
+        QVERIFY(refusal().contains("owned by someone else"));
         QCOMPARE(contents(keysFile()), before);
     }
 
@@ -285,7 +293,7 @@ private Q_SLOTS:
                   text({ key("user"), "", appComment, key("old"), key("a"), key("b") }));
         const QDateTime t(QDate(2025, 3, 1), QTime(10, 0), Qt::UTC);
         {
-            DeviceRegistry registry(support);
+            DeviceRegistry registry(support, QDir::homePath());
             QCOMPARE(registry.devices().size(), 1);
             QCOMPARE(contents(support + "/devices.json"), "{ not json");
             QVERIFY(!registry.record("Ann's iPhone", key("a"), "192.168.1.20", t));
@@ -295,7 +303,7 @@ private Q_SLOTS:
         QCOMPARE(contents(support + "/devices.json.bad"), "{ not json");
         QCOMPARE(modeOf(support + "/devices.json"), 0600);
 
-        DeviceRegistry registry(support);
+        DeviceRegistry registry(support, QDir::homePath());
         const QList<PairedDevice> devices = registry.devices();
         QCOMPARE(
             names(devices),
@@ -316,7 +324,7 @@ private Q_SLOTS:
     {
         const QString support = QDir::homePath() + "/support-revoke";
         writeFile(keysFile(), text({ appComment, key("old"), key("a"), key("b"), key("c") }));
-        DeviceRegistry registry(support);
+        DeviceRegistry registry(support, QDir::homePath());
         const QDateTime t = QDateTime::currentDateTimeUtc();
         QVERIFY(!registry.record("iPhone", key("a"), {}, t));
         QVERIFY(!registry.record("IPHONE", key("b"), {}, t));

@@ -68,8 +68,8 @@ private Q_SLOTS:
         PairingSession session;
         QStringList installed;
         PairingListener listener({ &session });
-        listener.onKeyReceived = [&](const QString &key) {
-            installed.append(key);
+        listener.onPairingRequest = [&](const PairingResult &result) {
+            installed.append(result.publicKey);
             return true;
         };
         listener.start(0, false);

@@ -179,8 +179,6 @@ private Q_SLOTS:
         const QByteArray key = ed25519Key();
         QCOMPARE(pairWith(key), ok);
         const QByteArray stored = m_fixture->keysFile();
-        m_fixture->manager().stopServer();
-        m_fixture->manager().startServer();
         m_code = m_fixture->startPairing();
         QCOMPARE(pairWith(key.left(key.lastIndexOf(' ')) + " renamed"), ok);
         QCOMPARE(m_fixture->keysFile(), stored);
@@ -229,9 +227,16 @@ private Q_SLOTS:
         QTRY_VERIFY(console.lines().filter("[PairingListener] New connection from").size()
                     >= PairingListener::maxConnections);
         QCOMPARE(pairWith(ed25519Key()), ok);
-        // Each silent one is closed at its read deadline.
-        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(idle.begin(), idle.end(),
-                                             [](const auto &s) {
+        // Each silent one it accepted is closed at its read deadline. (The listener stays after
+        // a pairing, so those the system still holds back are accepted, and closed, in turn.)
+        std::vector<QTcpSocket *> accepted;
+        for (const auto &socket : idle) {
+            if (socket->state() == QAbstractSocket::ConnectedState)
+                accepted.push_back(socket.get());
+        }
+        QVERIFY(!accepted.empty());
+        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(accepted.begin(), accepted.end(),
+                                             [](const QTcpSocket *s) {
                                                  return s->state()
                                                      == QAbstractSocket::UnconnectedState;
                                              }),

@@ -1,10 +1,9 @@
-#include "platform/userdefaults.h"
+#include "devices/sshkey.h"
+#include "pairing/phoneservice.h"
 #include "server/authorizedkeys.h"
-#include "server/servermanager.h"
 #include "testsupport.h"
 
 #include <QDir>
-#include <QSettings>
 
 #include <sys/stat.h>
 
@@ -123,49 +122,50 @@ private Q_SLOTS:
         QCOMPARE(contents(elsewhere.filePath("authorized_keys")), entryA());
     }
 
-    void acceptedPairingInstallsKeyAndEndsPairing()
+    // Two phones pair one after the other, the second under the name of the first: each is its
+    // own event with its own key, and the listener stays for the next one.
+    void everyPairingIsItsOwnEventAndKeepsTheListener()
     {
-        QSettings(QStringLiteral("Quivra"), QStringLiteral("QuivraMac")).clear();
-        userdefaults::setValue(QStringLiteral("autoStartServer"), false);
-        ServerManager manager(
-            testsupport::environment(std::make_shared<testsupport::GuardedProcessTable>()));
-        QVERIFY(!manager.pairingListener()); // no pairing while the server is stopped
-        manager.startServer();
-        QVERIFY(manager.pairingListener() && manager.pairingListener()->isListening());
-        manager.togglePairingMode();
-
-        // What the request protocol does for an accepted request.
-        PairingListener *listener = manager.pairingListener();
-        QVERIFY(listener->onKeyReceived(keyA));
-        listener->onPairingSuccess({ keyA, "Test Phone" });
-
-        QCOMPARE(contents(keysFile()), authorizedkeys::entry(keyA, QDate::currentDate()));
-        QVERIFY(!manager.isPairing());
-        QVERIFY(!manager.pairingListener());
-        QCOMPARE(manager.lastPairedDevice(), "Test Phone");
-        QVERIFY(manager.logs().endsWith("[QuivraMac] Pairing successful - key added\n"
-                                        "[QuivraMac] Paired with Test Phone\n"));
-        manager.stopServer();
+        PhoneService phones(
+            testsupport::environment(std::make_shared<testsupport::GuardedProcessTable>()), {});
+        QSignalSpy paired(&phones, &PhoneService::paired);
+        // Whoever waits for the event hears of it before of the switch-off that comes with it.
+        QList<bool> pairingWhenPaired;
+        connect(&phones, &PhoneService::paired, this,
+                [&] { pairingWhenPaired.append(phones.session().isPairing()); });
+        for (const QString &key : { keyA, keyB }) {
+            phones.togglePairingMode();
+            QVERIFY(phones.completePairing({ key, "iPhone", "192.0.2.7" }));
+            QVERIFY(!phones.session().isPairing());
+            QVERIFY(phones.isListening());
+        }
+        QCOMPARE(contents(keysFile()),
+                 authorizedkeys::entry(keyA, QDate::currentDate())
+                     + authorizedkeys::entry(keyB, QDate::currentDate()));
+        QCOMPARE(paired.size(), 2);
+        const auto device = [&](int i) { return paired.at(i).at(0).value<PairedDevice>(); };
+        QCOMPARE(device(0).fingerprint, SshKey::fromLine(keyA.toUtf8())->fingerprint());
+        QCOMPARE(device(1).fingerprint, SshKey::fromLine(keyB.toUtf8())->fingerprint());
+        QCOMPARE(device(1).name, "iPhone");
+        QCOMPARE(device(1).address, "192.0.2.7");
+        QCOMPARE(pairingWhenPaired, (QList<bool> { true, true }));
+        QCOMPARE(phones.devices().devices().size(), 2);
+        QCOMPARE(phones.lastPairedDevice(), "iPhone");
     }
 
     void failedInstallLeavesPairingAsItWas()
     {
-        QSettings(QStringLiteral("Quivra"), QStringLiteral("QuivraMac")).clear();
-        userdefaults::setValue(QStringLiteral("autoStartServer"), false);
         write(sshDir(), "not a directory", 0600);
-        ServerManager manager(
-            testsupport::environment(std::make_shared<testsupport::GuardedProcessTable>()));
-        manager.startServer();
-        manager.togglePairingMode();
+        PhoneService phones(
+            testsupport::environment(std::make_shared<testsupport::GuardedProcessTable>()), {});
+        QSignalSpy paired(&phones, &PhoneService::paired);
+        phones.togglePairingMode();
         testsupport::ConsoleCapture console;
-        QVERIFY(!manager.pairingListener()->onKeyReceived(keyA));
-        QVERIFY(manager.isPairing());
-        QVERIFY(manager.pairingListener());
+        QVERIFY(!phones.completePairing({ keyA, "Test Phone" }));
+        QVERIFY(phones.session().isPairing());
+        QVERIFY(paired.isEmpty());
         QCOMPARE(console.lines(),
                  QStringList { "Not installing key: ~/.ssh is not a directory; move it aside" });
-        QVERIFY(manager.logs().endsWith(
-            "[QuivraMac] Not installing key: ~/.ssh is not a directory; move it aside\n"));
-        manager.stopServer();
     }
 };
 

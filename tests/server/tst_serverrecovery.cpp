@@ -25,6 +25,7 @@ class TestServerRecovery : public QObject
         env.steadyNow = m_clock.clock();
         env.pairingPort = pairingPort;
         m_manager = std::make_unique<ServerManager>(std::move(env));
+        testsupport::awaitCleanup(*m_manager);
         return *m_manager;
     }
     qsizetype starts() const
@@ -44,14 +45,14 @@ private Q_SLOTS:
         userdefaults::setValue(QStringLiteral("autoStartServer"), false);
         m_processes = std::make_shared<GuardedProcessTable>();
         m_clock = {};
-        QFile::remove(ServerManager(testsupport::environment(m_processes)).supportDirectory()
+        QFile::remove(testsupport::environment(m_processes).supportDirectory()
                       + "/fake-etserver-starts");
     }
 
     void cleanup()
     {
         if (m_manager)
-            m_manager->stopServer();
+            m_manager->supervisor().stopForQuit();
         m_manager.reset();
         qunsetenv("FAKE_ETSERVER_CRASHES");
     }
@@ -62,8 +63,8 @@ private Q_SLOTS:
         ServerManager &manager = makeManager();
         manager.startServer();
         for (const auto pause : { 1s, 2s, 4s, 8s }) {
-            QTRY_VERIFY(manager.pendingRestart());
-            QCOMPARE(*manager.pendingRestart(), std::chrono::milliseconds(pause));
+            QTRY_VERIFY(manager.supervisor().pendingRestart());
+            QCOMPARE(*manager.supervisor().pendingRestart(), std::chrono::milliseconds(pause));
             QVERIFY(!manager.isRunning());
             QCOMPARE(manager.failureReason(), "etserver stopped unexpectedly (signal 6)");
             // The exit notice first, then the restart's own line.
@@ -80,15 +81,15 @@ private Q_SLOTS:
         QCOMPARE(manager.failureReason(),
                  "etserver stopped unexpectedly (signal 6); QuivraMac gave up restarting it after "
                  "5 stops in 10 minutes");
-        QVERIFY(!manager.pendingRestart());
+        QVERIFY(!manager.supervisor().pendingRestart());
         QVERIFY(lastLines(1).startsWith("[QuivraMac] Not restarting: "));
 
         // The user's own start begins afresh.
         manager.startServer();
-        QTRY_VERIFY(manager.pendingRestart());
-        QCOMPARE(*manager.pendingRestart(), std::chrono::milliseconds(1s));
+        QTRY_VERIFY(manager.supervisor().pendingRestart());
+        QCOMPARE(*manager.supervisor().pendingRestart(), std::chrono::milliseconds(1s));
         manager.stopServer();
-        QVERIFY(!manager.pendingRestart());
+        QVERIFY(!manager.supervisor().pendingRestart());
         QCOMPARE(manager.failureReason(), QString());
     }
 
@@ -99,8 +100,8 @@ private Q_SLOTS:
         manager.startServer();
         // Three minutes apart: never five within ten minutes, so it never gives up.
         for (const auto pause : { 1s, 2s, 4s, 8s, 16s, 16s }) {
-            QTRY_VERIFY(manager.pendingRestart());
-            QCOMPARE(*manager.pendingRestart(), std::chrono::milliseconds(pause));
+            QTRY_VERIFY(manager.supervisor().pendingRestart());
+            QCOMPARE(*manager.supervisor().pendingRestart(), std::chrono::milliseconds(pause));
             const qsizetype before = starts();
             m_clock.advance(3min);
             QTRY_COMPARE(starts(), before + 1);
@@ -115,14 +116,14 @@ private Q_SLOTS:
         QSignalSpy reasons(&manager, &ServerManager::failureReasonChanged);
         manager.startServer();
         QVERIFY(!manager.isRunning());
-        QVERIFY(!manager.serverProcess()); // not launched just to fail
+        QCOMPARE(manager.supervisor().pid(), 0); // not launched just to fail
         QCOMPARE(manager.failureReason(), "Port 2022 is in use");
         QCOMPARE(reasons.size(), 1);
-        QVERIFY(manager.isWaitingForPort());
-        QVERIFY(!manager.pendingRestart()); // a restart cannot free the port
+        QVERIFY(manager.supervisor().isWaitingForPort());
+        QVERIFY(!manager.supervisor().pendingRestart()); // a restart cannot free the port
 
         holder.close();
-        m_clock.advance(ServerManager::portRecheckInterval);
+        m_clock.advance(ServerSupervisor::portRecheckInterval);
         QTRY_VERIFY(manager.isRunning());
         QCOMPARE(manager.failureReason(), QString());
         QVERIFY(manager.logs().contains("[QuivraMac] Port 2022 is free\n"));
@@ -134,22 +135,24 @@ private Q_SLOTS:
         QVERIFY(holder.listen(QHostAddress::Any, 0));
         const quint16 port = holder.serverPort();
         ServerManager &manager = makeManager(port);
-        manager.startServer();
-        QVERIFY(manager.isRunning());
-        QVERIFY(!manager.pairingListener()->isListening());
+        QVERIFY(!manager.phones().isListening());
         QCOMPARE(manager.failureReason(),
                  QStringLiteral("Port %1 is in use, so phones cannot pair").arg(port));
+        // Whether or not the server runs.
+        manager.startServer();
+        QTRY_VERIFY(manager.isRunning());
+        QVERIFY(!manager.phones().isListening());
         holder.close();
-        m_clock.advance(ServerManager::portRecheckInterval);
-        QTRY_VERIFY(manager.pairingListener()->isListening());
-        QCOMPARE(manager.pairingListener()->port(), port);
+        m_clock.advance(PhoneService::retryInterval);
+        QTRY_VERIFY(manager.phones().isListening());
+        QCOMPARE(manager.phones().port(), port);
         QCOMPARE(manager.failureReason(), QString());
     }
 
     void serverLogsKeepTheNewestTen()
     {
         ServerManager &manager = makeManager();
-        const QDir support(manager.supportDirectory());
+        const QDir support(manager.supervisor().supportDirectory());
         const QDateTime start = QDateTime::currentDateTime().addDays(-1);
         for (int i = 0; i < 14; ++i) {
             QFile log(
@@ -159,6 +162,7 @@ private Q_SLOTS:
         }
         QFile(support.filePath("devices.json.keep")).open(QIODevice::WriteOnly);
         manager.startServer();
+        QTRY_VERIFY(manager.isRunning());
         const QStringList kept = support.entryList({ "etserver-*.log" }, QDir::Files, QDir::Name);
         QCOMPARE(kept.size(), 10);
         QVERIFY(kept.first().startsWith("etserver-2026-01-14_4"));

@@ -21,26 +21,23 @@ PairingFixture::PairingFixture()
     env.sshPort = m_sshd.serverPort();
     env.now = [offset = m_offset] { return std::chrono::system_clock::now() + *offset; };
     m_manager = std::make_unique<ServerManager>(std::move(env));
-    if (!m_manager->isRunning())
-        m_manager->startServer();
-    if (m_manager->serverProcess())
-        m_processes->allow(m_manager->serverProcess()->processId());
-    if (!m_manager->pairingListener() || !m_manager->pairingListener()->isListening())
+    m_manager->startServer();
+    // The start follows the clean-up of servers an earlier run left behind.
+    if (!QTest::qWaitFor([this] { return m_manager->isRunning(); }))
+        QTest::qFail("the server did not start", __FILE__, __LINE__);
+    m_processes->allow(m_manager->supervisor().pid());
+    if (!m_manager->phones().isListening())
         QTest::qFail("the pairing listener did not start", __FILE__, __LINE__);
-    else
-        m_port = m_manager->pairingListener()->port();
 }
 
 quint16 PairingFixture::port() const
 {
-    if (const PairingListener *listener = m_manager->pairingListener())
-        m_port = listener->port();
-    return m_port;
+    return m_manager->phones().port();
 }
 
 PairingFixture::~PairingFixture()
 {
-    m_manager->stopServer();
+    m_manager->supervisor().stopForQuit();
 }
 
 QString PairingFixture::startPairing()

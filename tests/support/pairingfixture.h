@@ -16,7 +16,7 @@ public:
     ~PairingFixture();
 
     ServerManager &manager() { return *m_manager; }
-    // The listener's, also after a restart; the last one's once it is gone.
+    // The listener's.
     quint16 port() const;
     int sshConnections() const { return *m_sshConnections; }
     void closeSshDaemon() { m_sshd.close(); }
@@ -44,7 +44,6 @@ private:
     std::shared_ptr<std::chrono::seconds> m_offset = std::make_shared<std::chrono::seconds>(0);
     std::shared_ptr<GuardedProcessTable> m_processes = std::make_shared<GuardedProcessTable>();
     std::unique_ptr<ServerManager> m_manager;
-    mutable quint16 m_port = 0;
 };
 
 // Well-formed public key lines with random key material.

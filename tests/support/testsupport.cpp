@@ -1,5 +1,7 @@
 #include "testsupport.h"
 
+#include "server/servermanager.h"
+
 #include <QDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -111,6 +113,12 @@ ConsoleCapture::~ConsoleCapture()
 QStringList ConsoleCapture::lines() const
 {
     return *m_lines;
+}
+
+void awaitCleanup(const ServerManager &manager)
+{
+    if (!QTest::qWaitFor([&] { return !manager.supervisor().isCleaningUp(); }, 5000))
+        QTest::qFail("the clean-up of earlier servers did not end", __FILE__, __LINE__);
 }
 
 } // namespace testsupport

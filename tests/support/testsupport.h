@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+class ServerManager;
+
 namespace testsupport {
 
 // Points HOME, the XDG directories and QStandardPaths at a fresh temporary directory, so that no
@@ -62,6 +64,10 @@ private:
 // pairing port the system chooses, no DNS-SD advertisement, and restarts and port checks on a
 // clock that stands still unless a test swaps in a ManualClock it moves.
 ServerEnvironment environment(std::shared_ptr<GuardedProcessTable> processes);
+
+// Waits until the manager's clean-up of servers an earlier run left behind is over (it runs on
+// timers, and a start waits for it); the calling test fails otherwise.
+void awaitCleanup(const ServerManager &manager);
 
 // A loopback port that refuses connections for as long as holder lives.
 quint16 refusingTcpPort(QTcpSocket &holder);

@@ -39,6 +39,8 @@ QmlHarness::QmlHarness(const std::function<void(ServerEnvironment &)> &adjust)
     if (adjust)
         adjust(env);
     m_manager = std::make_unique<ServerManager>(std::move(env));
+    // A start waits for the clean-up of earlier servers; views are shown after it.
+    testsupport::awaitCleanup(*m_manager);
     m_app = std::make_unique<QuivraMacApp>();
     m_sshd.listen(QHostAddress::LocalHost);
     m_systemCheck = std::make_unique<SystemCheck>(
@@ -66,8 +68,7 @@ QmlHarness::~QmlHarness()
 {
     m_otherWindows.clear();
     m_window.reset();
-    if (m_manager->isRunning())
-        m_manager->stopServer();
+    m_manager->supervisor().stopForQuit();
 }
 
 QQuickItem *QmlHarness::show(const QString &viewType)
@@ -139,7 +140,7 @@ void QmlHarness::pairPhone(const QString &name, QDate day)
 {
     const QString key = QString::fromLatin1(ed25519Key("mobile"));
     authorizedkeys::install(QDir::homePath(), key, day);
-    m_manager->devices().record(name, key, "192.168.1.31", QDateTime(day, QTime(9, 30)));
+    m_manager->phones().devices().record(name, key, "192.168.1.31", QDateTime(day, QTime(9, 30)));
 }
 
 QImage QmlHarness::grab(int shorterBy)
@@ -161,6 +162,18 @@ void QmlHarness::setDark(bool dark)
         palette.setColor(QPalette::ButtonText, Qt::white);
     }
     QGuiApplication::setPalette(palette);
+}
+
+QString QmlHarness::shownCode(const QString &rowName) const
+{
+    QString code;
+    if (auto *row = find<QQuickItem>(rowName)) {
+        for (QQuickItem *box : row->childItems()) {
+            if (!box->childItems().isEmpty())
+                code += box->childItems().constFirst()->property("text").toString();
+        }
+    }
+    return code;
 }
 
 QStringList QmlHarness::visibleTexts() const

@@ -73,6 +73,8 @@ public:
     }
     // Texts of every visible Text item, for "what is shown".
     QStringList visibleTexts() const;
+    // The code a row of digit boxes shows.
+    QString shownCode(const QString &rowName) const;
     // What the views' code complained of since the last call, such as a name it could not
     // resolve.
     QStringList takeQmlWarnings() { return std::exchange(m_warnings, {}); }

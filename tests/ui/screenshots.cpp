@@ -120,11 +120,7 @@ int onboardingShots(const QDir &out)
               [&] {
                   flow.showPairingState(Flow::Error, {}, Flow::NetworkMismatch, "Home Wi-Fi");
               } },
-            { "setup-success",
-              [&] {
-                  h.manager().pairingListener()->onPairingSuccess(
-                      { "ssh-ed25519 AAAA", "Ana's iPhone" });
-              } },
+            { "setup-success", [&] { Q_EMIT h.manager().phones().paired({ "Ana's iPhone" }); } },
         };
         for (const auto &[name, prepare] : shots) {
             prepare();
@@ -263,7 +259,8 @@ int main(int argc, char *argv[])
           "SettingsView",
           [](QmlHarness &h) {
               h.view()->setProperty("selectedTab", 2);
-              const QString newest = h.manager().devices().devices().constFirst().fingerprint;
+              const QString newest =
+                  h.manager().phones().devices().devices().constFirst().fingerprint;
               h.find<QObject>("devicesTab")->setProperty("confirming", newest);
           },
           { 500, 400 } },

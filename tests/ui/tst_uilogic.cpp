@@ -70,7 +70,7 @@ private Q_SLOTS:
         ui.toggleServer();
         QVERIFY(harness.manager().isRunning());
         ui.toggleServer();
-        QVERIFY(!harness.manager().isRunning());
+        QTRY_VERIFY(!harness.manager().isRunning());
 
         QVERIFY(ui.autoStartServer() == false); // the harness turned it off
         ui.setAutoStartServer(true);

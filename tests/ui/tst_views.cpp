@@ -122,7 +122,7 @@ private Q_SLOTS:
 
         view->setProperty("selectedTab", 0);
         click("startStopButton");
-        QVERIFY(!h().manager().isRunning());
+        QTRY_VERIFY(!h().manager().isRunning());
     }
 
     void missingEtserverIsExplainedWithItsInstallSteps()
@@ -169,7 +169,7 @@ private Q_SLOTS:
 
         QQuickItem *view = h().show("SettingsView");
         view->setProperty("selectedTab", UiController::DevicesTab);
-        const QString fingerprint = h().manager().devices().devices().value(0).fingerprint;
+        const QString fingerprint = h().manager().phones().devices().devices().value(0).fingerprint;
         QTRY_VERIFY(h().find<QObject>("deviceName"));
         QCOMPARE(text("deviceName"), "Ana's iPhone");
         QVERIFY(!h().find<QQuickItem>("confirmRevoke")->isVisible());
@@ -177,11 +177,11 @@ private Q_SLOTS:
         QVERIFY(h().find<QQuickItem>("confirmRevoke")->isVisible());
         click("cancelRevoke");
         QVERIFY(!h().find<QQuickItem>("confirmRevoke")->isVisible());
-        QCOMPARE(h().manager().devices().devices().size(), 1);
+        QCOMPARE(h().manager().phones().devices().devices().size(), 1);
 
         click("revokeButton");
         click("confirmRevoke");
-        QVERIFY(h().manager().devices().devices().isEmpty());
+        QVERIFY(h().manager().phones().devices().devices().isEmpty());
         QTRY_VERIFY(h().find<QQuickItem>("noDevices")->isVisible());
         QVERIFY(text("revokeOutcome").startsWith("Revoked"));
         QFile keys(QDir::homePath() + "/.ssh/authorized_keys");

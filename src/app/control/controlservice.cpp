@@ -37,7 +37,13 @@ ServerManagerAdaptor::ServerManagerAdaptor(ServerManager *manager)
     : QDBusAbstractAdaptor(manager)
     , m_manager(manager)
 {
-    connect(manager, &ServerManager::devicesChanged, this, &ServerManagerAdaptor::DevicesChanged);
+    PhoneService &phones = manager->phones();
+    connect(&phones.devices(), &DeviceRegistry::devicesChanged, this,
+            &ServerManagerAdaptor::DevicesChanged);
+    connect(&phones, &PhoneService::paired, this, [this](const PairedDevice &device) {
+        Q_EMIT Paired(device.name, device.fingerprint, device.pairedAt.toString(Qt::ISODate),
+                      device.address);
+    });
     // Every observable property of the manager is announced when it changes, except the uptime:
     // it is worked out when read, and announcing it every second would wake the bus for nothing.
     const QMetaObject *meta = manager->metaObject();
@@ -137,7 +143,7 @@ QString ServerManagerAdaptor::failureReason() const
 QString ServerManagerAdaptor::Devices() const
 {
     QJsonArray list;
-    const QList<PairedDevice> devices = m_manager->devices().devices();
+    const QList<PairedDevice> devices = m_manager->phones().devices().devices();
     for (const PairedDevice &device : devices) {
         list.append(
             QJsonObject { { QStringLiteral("name"), device.name },
@@ -152,7 +158,8 @@ QString ServerManagerAdaptor::Devices() const
 
 bool ServerManagerAdaptor::Revoke(const QString &nameOrFingerprint, QString &message)
 {
-    const DeviceRegistry::Revocation result = m_manager->devices().revoke(nameOrFingerprint);
+    const DeviceRegistry::Revocation result =
+        m_manager->phones().devices().revoke(nameOrFingerprint);
     message = result.message;
     return result.ok;
 }

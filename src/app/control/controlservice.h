@@ -69,6 +69,10 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void DevicesChanged();
+    // One per finished pairing, after its key is stored: the phone's name, its key's
+    // fingerprint, when it paired (ISO 8601, UTC) and its address.
+    void Paired(const QString &name, const QString &fingerprint, const QString &pairedAt,
+                const QString &address);
 
 private Q_SLOTS:
     void announceChange();

@@ -9,26 +9,19 @@
 
 PairingNotifier::PairingNotifier(ServerManager *manager, QObject *parent)
     : QObject(parent)
-    , m_manager(manager)
 {
-    connect(manager, &ServerManager::lastPairedDeviceChanged, this,
-            [this] { notify(m_manager->lastPairedDevice()); });
+    connect(&manager->phones(), &PhoneService::paired, this, &PairingNotifier::notify);
 }
 
-void PairingNotifier::notify(const QString &device)
+void PairingNotifier::notify(const PairedDevice &device)
 {
-    if (device.isEmpty())
-        return;
-    // The newest entry is the phone that just paired.
-    const QList<PairedDevice> devices = m_manager->devices().devices();
-    const QString fingerprint = devices.isEmpty() ? QString() : devices.constFirst().fingerprint;
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.Notifications"),
         QStringLiteral("/org/freedesktop/Notifications"),
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
     call << QStringLiteral("QuivraMac") << uint(0) << QStringLiteral("quivramac")
-         << QStringLiteral("Paired with %1").arg(device)
-         << QStringLiteral("It can now log in to this computer. Key %1").arg(fingerprint)
+         << QStringLiteral("Paired with %1").arg(device.name)
+         << QStringLiteral("It can now log in to this computer. Key %1").arg(device.fingerprint)
          << QStringList() << QVariantMap() << int(-1);
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);

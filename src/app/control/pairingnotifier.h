@@ -3,6 +3,7 @@
 #include <QObject>
 
 class ServerManager;
+struct PairedDevice;
 
 // Tells the desktop when a phone has paired, through the freedesktop notification service.
 // Where no such service runs it says so once and carries on.
@@ -14,8 +15,7 @@ public:
     explicit PairingNotifier(ServerManager *manager, QObject *parent = nullptr);
 
 private:
-    void notify(const QString &device);
+    void notify(const PairedDevice &device);
 
-    ServerManager *m_manager;
     bool m_toldUnavailable = false;
 };

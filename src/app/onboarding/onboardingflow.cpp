@@ -10,9 +10,16 @@ OnboardingFlow::OnboardingFlow(ServerManager *serverManager, QuivraMacApp *app, 
     , m_serverManager(serverManager)
     , m_app(app)
 {
-    if (serverManager)
-        connect(serverManager, &ServerManager::lastPairedDeviceChanged, this,
-                &OnboardingFlow::onPairedDeviceChanged);
+    if (!serverManager)
+        return;
+    connect(&serverManager->phones(), &PhoneService::paired, this,
+            [this](const PairedDevice &device) { onPaired(device.name); });
+    connect(serverManager, &ServerManager::pairingTokenChanged, this, &OnboardingFlow::codeChanged);
+}
+
+QString OnboardingFlow::code() const
+{
+    return m_serverManager ? m_serverManager->pairingToken() : QString();
 }
 
 QString OnboardingFlow::title(ErrorKind kind)
@@ -63,7 +70,7 @@ void OnboardingFlow::startPairing()
         return;
     // Silently, unlike the user's switch: a fresh code with its own five minutes, the address
     // left as it is and nothing logged.
-    m_serverManager->pairingSession().switchOn();
+    m_serverManager->pairingSession()->switchOn();
     waitForDevice();
 }
 
@@ -71,14 +78,13 @@ void OnboardingFlow::renewCode()
 {
     if (!m_serverManager)
         return;
-    m_serverManager->pairingSession().renew();
+    m_serverManager->pairingSession()->renew();
     waitForDevice();
 }
 
 void OnboardingFlow::waitForDevice()
 {
     m_pairingKind = WaitingForDevice;
-    m_code = m_serverManager->pairingToken();
     m_expiresIn = codeLifetime;
     setStep(Pairing);
 }
@@ -93,12 +99,11 @@ void OnboardingFlow::showPairingState(PairingKind kind, const QString &deviceNam
     setStep(Pairing);
 }
 
-void OnboardingFlow::onPairedDeviceChanged()
+void OnboardingFlow::onPaired(const QString &deviceName)
 {
-    const QString device = m_serverManager ? m_serverManager->lastPairedDevice() : QString();
-    if (m_step != Pairing || device.isEmpty())
+    if (m_step != Pairing)
         return;
-    m_deviceName = device;
+    m_deviceName = deviceName;
     setStep(Success);
 }
 

@@ -13,7 +13,8 @@ class OnboardingFlow : public QObject
     Q_OBJECT
     Q_PROPERTY(Step step READ step NOTIFY stepChanged)
     Q_PROPERTY(PairingKind pairingKind READ pairingKind NOTIFY stepChanged)
-    Q_PROPERTY(QString code READ code NOTIFY stepChanged)
+    // The session's current code, renewed wherever it was renewed.
+    Q_PROPERTY(QString code READ code NOTIFY codeChanged)
     Q_PROPERTY(double expiresIn READ expiresIn NOTIFY stepChanged)
     Q_PROPERTY(QString deviceName READ deviceName NOTIFY stepChanged)
     Q_PROPERTY(ErrorKind errorKind READ errorKind NOTIFY stepChanged)
@@ -36,7 +37,7 @@ public:
 
     Step step() const { return m_step; }
     PairingKind pairingKind() const { return m_pairingKind; }
-    QString code() const { return m_code; }
+    QString code() const;
     double expiresIn() const { return m_expiresIn; }
     QString deviceName() const { return m_deviceName; }
     ErrorKind errorKind() const { return m_errorKind; }
@@ -67,18 +68,18 @@ public:
 
 Q_SIGNALS:
     void stepChanged();
+    void codeChanged();
     void dismiss();
 
 private:
     void setStep(Step step);
     void waitForDevice();
-    void onPairedDeviceChanged();
+    void onPaired(const QString &deviceName);
 
     QPointer<ServerManager> m_serverManager;
     QuivraMacApp *m_app;
     Step m_step = Welcome;
     PairingKind m_pairingKind = WaitingForDevice;
-    QString m_code;
     double m_expiresIn = codeLifetime;
     QString m_deviceName;
     ErrorKind m_errorKind = WrongCode;

@@ -183,7 +183,7 @@ void SystemCheck::checkServer(std::function<void(Item)> done)
                 failed(QStringLiteral("Server couldn't start"), prompts::serverCrash(-1, {})));
         if (m_serverManager->isRunning())
             return report(passed);
-        const ServerFailure failure = m_serverManager->lastFailure();
+        const ServerFailure failure = m_serverManager->supervisor().failure();
         const int port = m_serverManager->port();
         if (failure.kind == ServerFailure::NotInstalled)
             return report(failed(QStringLiteral("Eternal Terminal is not installed"),

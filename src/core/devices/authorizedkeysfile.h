@@ -6,6 +6,10 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
+struct stat;
+
 // Reading authorized_keys as the app wrote into it: each key the app installed sits directly
 // under "# Quivra Terminal - Added on {date}".
 namespace authorizedkeysfile {
@@ -25,5 +29,17 @@ QList<Line> lines(const QByteArray &content);
 // `content` without the lines that hold the key with `fingerprint`, nor the app's comment
 // directly above each of them; every other byte as it was. `removed` counts the key lines.
 QByteArray withoutKey(const QByteArray &content, const QString &fingerprint, int *removed);
+
+// Whether `content` holds the key of `keyLine` (same type and key material), whatever the
+// options and comment of either.
+bool containsKey(const QByteArray &content, const QByteArray &keyLine);
+
+// Why the app must not write to the authorized_keys that `info` describes (taken without
+// following a link): anything but a regular file of this user's, with no other hard links, that
+// no one else may change. In words that say how to fix it; none when it is fine.
+std::optional<QString> refusal(const struct stat &info);
+// The same for a symbolic link in its place, which would let its target's directory decide
+// what sshd reads.
+QString linkRefusal();
 
 } // namespace authorizedkeysfile

@@ -25,11 +25,6 @@ QString systemError(const QString &what)
     return what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno));
 }
 
-RewriteResult refused(const QString &why)
-{
-    return { RewriteResult::Kind::Refused, 0, why + QStringLiteral("; remove the key by hand") };
-}
-
 class Descriptor
 {
 public:
@@ -68,7 +63,7 @@ Snapshot snapshot(const QByteArray &path)
         if (errno == ENOENT)
             result.problem = { RewriteResult::Kind::NotPresent, 0, {} };
         else if (errno == ELOOP)
-            result.problem = refused(QStringLiteral("authorized_keys is a symbolic link"));
+            result.problem = { RewriteResult::Kind::Refused, 0, authorizedkeysfile::linkRefusal() };
         else
             result.problem = { RewriteResult::Kind::Failed, 0,
                                systemError(QStringLiteral("Cannot open authorized_keys")) };
@@ -77,12 +72,8 @@ Snapshot snapshot(const QByteArray &path)
     if (::fstat(fd.get(), &result.info) != 0)
         result.problem = { RewriteResult::Kind::Failed, 0,
                            systemError(QStringLiteral("Cannot inspect authorized_keys")) };
-    else if (!S_ISREG(result.info.st_mode))
-        result.problem = refused(QStringLiteral("authorized_keys is not a regular file"));
-    else if (result.info.st_uid != ::getuid())
-        result.problem = refused(QStringLiteral("authorized_keys is not owned by you"));
-    else if (result.info.st_nlink != 1) // the other names would keep the key
-        result.problem = refused(QStringLiteral("authorized_keys has other hard links"));
+    else if (const auto why = authorizedkeysfile::refusal(result.info))
+        result.problem = { RewriteResult::Kind::Refused, 0, *why };
     if (result.problem)
         return result;
     QFile file;

@@ -54,8 +54,7 @@ QString quoted(const QString &name)
 DeviceRegistry::DeviceRegistry(const QString &directory, const QString &home, QObject *parent)
     : QObject(parent)
     , m_file(directory + QStringLiteral("/devices.json"))
-    , m_authorizedKeys((home.isEmpty() ? QDir::homePath() : home)
-                       + QStringLiteral("/.ssh/authorized_keys"))
+    , m_authorizedKeys(home + QStringLiteral("/.ssh/authorized_keys"))
 {
     // An unusable devices.json stays as it is until the next pairing, which first copies it to
     // devices.json.bad: the names in it are the user's, and a later version may read it.
@@ -73,15 +72,31 @@ DeviceRegistry::DeviceRegistry(const QString &directory, const QString &home, QO
     watch();
 }
 
+std::optional<PairedDevice> DeviceRegistry::entryFor(const QString &deviceName,
+                                                     const QString &publicKeyLine,
+                                                     const QString &address, const QDateTime &when)
+{
+    const auto key = SshKey::fromLine(publicKeyLine.toUtf8());
+    if (!key)
+        return std::nullopt;
+    return PairedDevice { deviceName,   key->type,    key->fingerprint(),
+                          key->comment, when.toUTC(), address };
+}
+
 std::optional<QString> DeviceRegistry::record(const QString &deviceName,
                                               const QString &publicKeyLine, const QString &address,
                                               const QDateTime &when)
 {
-    const auto key = SshKey::fromLine(publicKeyLine.toUtf8());
-    if (!key)
+    const auto device = entryFor(deviceName, publicKeyLine, address, when);
+    if (!device)
         return QStringLiteral("Not a public key line");
-    const PairedDevice device { deviceName,   key->type,    key->fingerprint(),
-                                key->comment, when.toUTC(), address };
+    return record(*device);
+}
+
+std::optional<QString> DeviceRegistry::record(const PairedDevice &device)
+{
+    if (device.fingerprint.isEmpty())
+        return QStringLiteral("Not a public key line");
     forget(device.fingerprint);
     m_recorded.append(device);
     if (m_fileUnusable) {

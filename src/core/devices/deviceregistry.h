@@ -23,13 +23,17 @@ public:
     };
 
     // `directory` holds devices.json; `home` is where .ssh/authorized_keys is looked for.
-    explicit DeviceRegistry(const QString &directory, const QString &home = {},
-                            QObject *parent = nullptr);
+    DeviceRegistry(const QString &directory, const QString &home, QObject *parent = nullptr);
 
+    // The entry a pairing makes; none when the line holds no key.
+    static std::optional<PairedDevice> entryFor(const QString &deviceName,
+                                                const QString &publicKeyLine,
+                                                const QString &address, const QDateTime &when);
     // After a successful pairing; pairing the same key again updates its entry. Returns an error
     // text when the key line holds no key or the list cannot be saved.
     std::optional<QString> record(const QString &deviceName, const QString &publicKeyLine,
                                   const QString &address, const QDateTime &when);
+    std::optional<QString> record(const PairedDevice &device);
 
     // The recorded devices whose key is still in authorized_keys, and the keys there under the
     // app's comment that were never recorded, as "Unknown device (added {date})"; newest first.

@@ -81,5 +81,9 @@ std::optional<SshKey> SshKey::fromLine(QByteArrayView line)
     // As sshd reads it: a key right away, or else options first.
     if (auto key = keyAt(line))
         return key;
-    return keyAt(skipBlanks(line.sliced(optionsLength(line))));
+    const qsizetype options = optionsLength(line);
+    auto key = keyAt(skipBlanks(line.sliced(options)));
+    if (key)
+        key->options = line.first(options).toByteArray();
+    return key;
 }

@@ -6,12 +6,14 @@
 
 #include <optional>
 
-// The public key one line of authorized_keys (or a .pub file) holds.
+// The public key one line of authorized_keys (or a .pub file, or a phone's request) holds. The
+// app's one reader of key lines: what it installs, lists, revokes and finds already installed.
 struct SshKey
 {
     QString type; // "ssh-ed25519", "ssh-rsa", ...
     QByteArray blob; // the decoded base64: what sshd compares
     QString comment;
+    QByteArray options {}; // as written before the key, such as command="..."; empty when none
 
     // "SHA256:" and the unpadded base64 of the blob's SHA-256, as `ssh-keygen -lf` prints it.
     QString fingerprint() const;

@@ -14,6 +14,8 @@ using ServerRunning = std::function<std::optional<bool>()>;
 // What the checks read from the machine; tests replace pieces.
 struct DiagnosticSystem
 {
+    // The app's one source of the home directory: the keys it installs and lists live under it
+    // too, so that the report checks the same ~/.ssh that pairing writes.
     std::function<QString()> homeDirectory;
     std::function<QList<net::InterfaceAddress>()> interfaces;
     std::function<bool()> tailscaleInstalled;

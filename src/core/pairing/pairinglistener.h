@@ -51,9 +51,9 @@ public:
     quint16 port() const { return m_port; }
     // How long a connection may take to send its request (tests shorten it).
     void setReadDeadline(std::chrono::milliseconds deadline) { m_readDeadline = deadline; }
-    // Set by the owner before start(). The key callback answers whether the key is stored.
-    std::function<bool(const QString &publicKey)> onKeyReceived;
-    std::function<void(const PairingResult &result)> onPairingSuccess;
+    // Set by the owner before start(): called once per accepted pairing request, it stores the
+    // key and answers whether it could. The phone hears of success only after that.
+    std::function<bool(const PairingResult &result)> onPairingRequest;
     // Serves a connected socket as if this listener had accepted it. The fuzz target hands in
     // sockets that replay bytes from memory: its inputs meet the same reading, limits and
     // routing as a phone's, thousands a second and without a network.

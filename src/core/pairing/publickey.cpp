@@ -1,5 +1,7 @@
 #include "pairing/publickey.h"
 
+#include "devices/sshkey.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QList>
@@ -79,20 +81,13 @@ bool isAcceptableComment(const QString &comment)
 
 bool isAcceptable(const QString &key)
 {
-    const qsizetype typeEnd = key.indexOf(u' ');
-    if (typeEnd < 0)
+    const auto parsed = SshKey::fromLine(key.toUtf8());
+    if (!parsed || !parsed->options.isEmpty())
         return false;
-    const QString type = key.left(typeEnd);
-    if (type != QLatin1String("ssh-ed25519") && type != QLatin1String("ssh-rsa"))
+    if (parsed->type != QLatin1String("ssh-ed25519") && parsed->type != QLatin1String("ssh-rsa"))
         return false;
-    const qsizetype dataEnd = key.indexOf(u' ', typeEnd + 1);
-    const QString data = key.mid(typeEnd + 1, dataEnd < 0 ? -1 : dataEnd - typeEnd - 1);
-    if (dataEnd >= 0 && !isAcceptableComment(key.mid(dataEnd + 1)))
-        return false;
-    const auto decoded =
-        QByteArray::fromBase64Encoding(data.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-    // toLatin1 would turn a non-Latin-1 character into "?", which base64 rejects anyway.
-    return decoded && !decoded.decoded.isEmpty() && isValidBlob(type.toLatin1(), decoded.decoded);
+    return isAcceptableComment(parsed->comment)
+        && isValidBlob(parsed->type.toLatin1(), parsed->blob);
 }
 
 } // namespace publickey

@@ -5,9 +5,9 @@
 namespace publickey {
 
 // One line "<type> <base64> [comment]" of an Ed25519 key or an RSA key of at least 2048 bits,
-// whose base64 decodes to a well-formed key blob of that same type, with a short printable
-// comment. Nothing else may reach authorized_keys, where options such as command="..." would
-// change what the key allows.
+// as SshKey reads it, with no options, whose blob is a well-formed key of that type, with a short
+// printable comment. Nothing else may reach authorized_keys, where options such as command="..."
+// would change what the key allows.
 bool isAcceptable(const QString &key);
 
 } // namespace publickey

@@ -87,14 +87,11 @@ void PairingListener::handlePairRequest(const QString &requestLine, const QStrin
         connection->sendResponse(badRequest, QStringLiteral("Invalid Key Format"));
         return;
     }
-    // The key is on disk before the phone hears of success; the callback also ends pairing
-    // mode in this same step, so requests queued behind this one find it off.
-    if (onKeyReceived && !onKeyReceived(key)) {
+    // The key is on disk before the phone hears of success.
+    if (onPairingRequest && !onPairingRequest({ key, deviceName, connection->peerAddress() })) {
         connection->sendResponse(unavailable, serverNotReady);
         return;
     }
     qCInfo(lcConsole).nospace().noquote() << "Pairing Success! Device: " << deviceName;
-    if (onPairingSuccess)
-        onPairingSuccess({ key, deviceName, connection->peerAddress() });
     connection->sendResponse(QStringLiteral("200 OK"), QStringLiteral("Paired Successfully"));
 }

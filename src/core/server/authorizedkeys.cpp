@@ -1,6 +1,7 @@
 #include "server/authorizedkeys.h"
 
-#include <QByteArrayList>
+#include "devices/authorizedkeysfile.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -68,39 +69,17 @@ std::optional<Problem> checkOpenedFile(int fd)
     };
     if (::fstat(fd, &info) != 0)
         return failure(QStringLiteral("Cannot inspect authorized_keys"));
-    if (!S_ISREG(info.st_mode))
-        return refusal(QStringLiteral("~/.ssh/authorized_keys is not a regular file; move it "
-                                      "aside"));
-    if (info.st_uid != ::getuid())
-        return refusal(QStringLiteral("~/.ssh/authorized_keys is owned by someone else (uid "
-                                      "%1); fix with chown $USER ~/.ssh/authorized_keys")
-                           .arg(info.st_uid));
-    if (info.st_nlink != 1)
-        return refusal(QStringLiteral("~/.ssh/authorized_keys has other hard links; replace it "
-                                      "with a copy of its own"));
-    if (info.st_mode & (S_IWGRP | S_IWOTH))
-        return refusal(QStringLiteral("~/.ssh/authorized_keys is writable by others (mode %1); "
-                                      "fix with chmod 600 ~/.ssh/authorized_keys")
-                           .arg(octalMode(info.st_mode)));
+    if (const auto why = authorizedkeysfile::refusal(info))
+        return refusal(*why);
     return std::nullopt;
 }
 
-// True when a line of the file carries the same key type and base64, options or comment aside.
-bool alreadyPresent(const QByteArray &path, const QString &publicKey)
+bool alreadyPresent(int fd, const QString &publicKey)
 {
-    const QByteArrayList key = publicKey.toUtf8().simplified().split(' ');
-    QFile file(QString::fromLocal8Bit(path));
-    if (key.size() < 2 || !file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::DontCloseHandle))
         return false;
-    const QByteArrayList lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        const QByteArrayList fields = line.simplified().split(' ');
-        for (qsizetype i = 0; i + 1 < fields.size(); ++i) {
-            if (fields.at(i) == key.at(0) && fields.at(i + 1) == key.at(1))
-                return true;
-        }
-    }
-    return false;
+    return authorizedkeysfile::containsKey(file.readAll(), publicKey.toUtf8());
 }
 
 } // namespace
@@ -123,18 +102,17 @@ std::optional<Problem> install(const QString &home, const QString &publicKey, co
     {
     };
     const bool existed = ::lstat(path.constData(), &before) == 0;
+    // Read and appended through the one descriptor, so both see the same file.
     const int fd =
-        ::open(path.constData(), O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
+        ::open(path.constData(), O_RDWR | O_APPEND | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (fd < 0) {
-        return errno == ELOOP
-            ? refusal(QStringLiteral("~/.ssh/authorized_keys is a symbolic link; replace it "
-                                     "with the file it points to"))
-            : failure(QStringLiteral("Cannot open authorized_keys"));
+        return errno == ELOOP ? refusal(authorizedkeysfile::linkRefusal())
+                              : failure(QStringLiteral("Cannot open authorized_keys"));
     }
     auto error = checkOpenedFile(fd);
     if (!error && !existed && ::fchmod(fd, 0600) != 0)
         error = failure(QStringLiteral("Cannot set the mode of authorized_keys"));
-    if (!error && !alreadyPresent(path, publicKey)) {
+    if (!error && !alreadyPresent(fd, publicKey)) {
         const QByteArray bytes = entry(publicKey, date);
         const ssize_t written = ::write(fd, bytes.constData(), size_t(bytes.size()));
         if (written != ssize_t(bytes.size()))

@@ -3,12 +3,9 @@
 #include "platform/logging.h"
 #include "server/authorizedkeys.h"
 
-#include <QDir>
-
 bool KeyInstaller::install(const QString &publicKey) const
 {
-    if (const auto problem =
-            authorizedkeys::install(QDir::homePath(), publicKey, QDate::currentDate())) {
+    if (const auto problem = authorizedkeys::install(m_home, publicKey, QDate::currentDate())) {
         if (problem->refused) {
             qCInfo(lcConsole).nospace().noquote() << "Not installing key: " << problem->text;
             qCInfo(lcLog).nospace().noquote()

@@ -7,6 +7,13 @@
 class KeyInstaller
 {
 public:
+    explicit KeyInstaller(QString home)
+        : m_home(std::move(home))
+    { }
+
     // False, with the reason told, when the key was refused or could not be stored.
     bool install(const QString &publicKey) const;
+
+private:
+    QString m_home;
 };

@@ -14,6 +14,16 @@ ServerProcess::ServerProcess(std::chrono::milliseconds uptimeTick, QObject *pare
     m_uptimeTimer.setSingleShot(true);
     m_uptimeTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_uptimeTimer, &QTimer::timeout, this, &ServerProcess::refreshUptime);
+    m_killTimer.setSingleShot(true);
+    // A coarse timer may fire up to 5% early, and the grace is a promise to the server.
+    m_killTimer.setTimerType(Qt::PreciseTimer);
+    connect(&m_killTimer, &QTimer::timeout, this, [this] {
+        if (!m_process || m_process->state() == QProcess::NotRunning)
+            return;
+        if (m_beforeKill)
+            m_beforeKill();
+        m_process->kill();
+    });
 }
 
 ServerProcess::~ServerProcess()
@@ -53,8 +63,13 @@ std::optional<QString> ServerProcess::launch(const QString &program, const QStri
                 QMetaObject::invokeMethod(
                     this,
                     [this, generation, code, crashed] {
-                        const bool current = m_process && generation == m_generation;
-                        if (current) {
+                        bool current = m_process && generation == m_generation;
+                        if (current && m_stopping) {
+                            // The end of a stop: not an exit of the current server any more.
+                            forget();
+                            Q_EMIT stopped();
+                            current = false;
+                        } else if (current) {
                             setRunning(false);
                             refreshUptime();
                         }
@@ -65,18 +80,41 @@ std::optional<QString> ServerProcess::launch(const QString &program, const QStri
     return std::nullopt;
 }
 
-void ServerProcess::stop(std::chrono::milliseconds grace, const std::function<void()> &beforeKill)
+void ServerProcess::stop(std::chrono::milliseconds grace, std::function<void()> beforeKill)
+{
+    if (m_stopping)
+        return;
+    if (!m_process || m_process->state() == QProcess::NotRunning) {
+        // Already exited (its notice came or is on its way): nothing to wait for.
+        forget();
+        Q_EMIT stopped();
+        return;
+    }
+    m_stopping = true;
+    m_beforeKill = std::move(beforeKill);
+    m_process->terminate();
+    m_killTimer.start(grace);
+}
+
+void ServerProcess::stopNow(std::chrono::milliseconds grace)
 {
     if (m_process && m_process->state() != QProcess::NotRunning) {
-        m_process->terminate();
+        if (!m_stopping)
+            m_process->terminate();
         // Returns as soon as the child exits.
         if (!m_process->waitForFinished(int(grace.count()))) {
-            if (beforeKill)
-                beforeKill();
             m_process->kill();
             m_process->waitForFinished(100);
         }
     }
+    forget();
+}
+
+void ServerProcess::forget()
+{
+    m_stopping = false;
+    m_killTimer.stop();
+    m_beforeKill = {};
     m_process.reset();
     setRunning(false);
     refreshUptime();

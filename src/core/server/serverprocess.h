@@ -33,8 +33,13 @@ public:
     // The platform's error text when the child could not be started.
     std::optional<QString> launch(const QString &program, const QStringList &arguments);
     // SIGTERM, then SIGKILL once `grace` has passed; beforeKill runs just before the kill.
-    // Returns at once when the child has already exited. Forgets the child either way.
-    void stop(std::chrono::milliseconds grace, const std::function<void()> &beforeKill = {});
+    // Returns at once: stopped() follows once the child has gone (before returning when it had
+    // already exited), and the child is forgotten then.
+    void stop(std::chrono::milliseconds grace, std::function<void()> beforeKill = {});
+    bool isStopping() const { return m_stopping; }
+    // The same, waiting on the calling thread: only for the app's quit, which must not leave
+    // the child behind.
+    void stopNow(std::chrono::milliseconds grace);
 
 Q_SIGNALS:
     void runningChanged();
@@ -44,9 +49,12 @@ Q_SIGNALS:
     // Also for a child already replaced by a newer one, with `current` false. When `crashed`,
     // code is the number of the signal that ended it.
     void exited(int code, bool crashed, bool current);
+    // A stop has finished; comes before that child's exited().
+    void stopped();
 
 private:
     void setRunning(bool running);
+    void forget();
     // Announces a changed uptime and sets the tick for the next whole one, when watched.
     void refreshUptime();
 
@@ -65,4 +73,7 @@ private:
     double m_announcedUptime = 0;
     int m_uptimeWatchers = 0;
     QTimer m_uptimeTimer;
+    bool m_stopping = false;
+    QTimer m_killTimer;
+    std::function<void()> m_beforeKill;
 };

@@ -19,20 +19,21 @@ const QString launchAtLoginKey = QStringLiteral("launchAtLogin");
 UiController::UiController(ServerManager *serverManager, QObject *parent)
     : QObject(parent)
     , m_serverManager(serverManager)
-    , m_devices(serverManager ? &serverManager->devices() : nullptr)
+    , m_devices(serverManager ? &serverManager->phones().devices() : nullptr)
 {
     userdefaults::registerDefaults({ { autoStartKey, true }, { launchAtLoginKey, true } });
     if (!serverManager)
         return;
     connect(serverManager, &ServerManager::localIPChanged, this,
             &UiController::manualSetupDetailsChanged);
-    connect(serverManager, &ServerManager::lastFailureChanged, this,
+    connect(&serverManager->supervisor(), &ServerSupervisor::failureChanged, this,
             &UiController::etserverMissingChanged);
 }
 
 bool UiController::etserverMissing() const
 {
-    return m_serverManager && m_serverManager->lastFailure().kind == ServerFailure::NotInstalled;
+    return m_serverManager
+        && m_serverManager->supervisor().failure().kind == ServerFailure::NotInstalled;
 }
 
 bool UiController::autoStartServer() const
