@@ -21,8 +21,10 @@ packages=(
     avahi-utils openssh-server openssh-client iproute2 util-linux curl xvfb xauth
     # tests of the desktop: a headless Wayland compositor, an X11 tray, X11 windows from outside
     weston trayer xdotool
-    # tests with the real Eternal Terminal (../shared/et, never shipped): its runtime libraries
-    libprotobuf32 libsodium23 libunwind8 libutempter0 libssl3 libbrotli1
+    # the app's own Eternal Terminal server, built from its source: its libraries, and git to
+    # fetch the source where ../shared/et has none
+    libsodium-dev libprotobuf-dev protobuf-compiler libutempter-dev libunwind-dev libssl-dev
+    zlib1g-dev git
     # the Debian package: its dependencies worked out, its desktop entry and metainfo validated
     dpkg-dev file desktop-file-utils appstream
 )

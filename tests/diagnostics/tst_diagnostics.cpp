@@ -130,8 +130,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("et");
         const QString apt = "SSH server is not running. Install it with: sudo apt install "
                             "openssh-server";
-        QTest::newRow("debian") << "PRETTY_NAME=\"Debian GNU/Linux 12 (bookworm)\"\nID=debian\n"
-                                << apt << "";
+        QTest::newRow("debian")
+            << "PRETTY_NAME=\"Debian GNU/Linux 12 "
+               "(bookworm)\"\nID=debian\nVERSION_CODENAME=bookworm\n"
+            << apt
+            << "sudo mkdir -m 0755 -p /etc/apt/keyrings\ncurl -sSL "
+               "https://github.com/MisterTea/debian-et/raw/master/et.gpg | sudo tee "
+               "/etc/apt/keyrings/et.gpg >/dev/null\necho \"deb "
+               "[signed-by=/etc/apt/keyrings/et.gpg] "
+               "https://mistertea.github.io/debian-et/debian-source/ bookworm main\" | sudo tee "
+               "/etc/apt/sources.list.d/et.list\nsudo apt update && sudo apt install et";
         QTest::newRow("ubuntu")
             << "ID=ubuntu\nID_LIKE=debian\n"
             << apt << "sudo add-apt-repository ppa:jgmath2000/et && sudo apt install et";

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# The real Eternal Terminal server under the real app: a phone's key paired through the listener
-# carries an `et` session through the supervised etserver; then what goes wrong is named in
+# The app's own Eternal Terminal server, as built beside it, under the real app: a phone's key
+# paired through the listener carries an `et` session through the supervised etserver, its
+# etterminal started by name as a stock client does; then what goes wrong is named in
 # `quivractl status` (port taken, another user's socket, a crash, no etserver), the server starts
 # by itself once its port is free and after a crash, a hand-started etserver survives the app's
 # start-up, and the advertisement comes back after the DNS-SD daemon starts late or restarts.
-# Usage: etserver.sh QUIVRAMAC QUIVRACTL ET_DIR
+# Usage: etserver.sh QUIVRAMAC QUIVRACTL ET_DIR (the build's etserver, etterminal and client et)
 # Runs as root in private network, mount and process namespaces: /tmp/et.fifo, /run (system bus,
 # avahi-daemon, sshd) and every process it starts are its own and end with it. Exit 77 (skipped)
 # where a real part is missing, unless QUIVRA_REQUIRE_E2E is set, as in CI.
@@ -15,7 +16,7 @@ logs=(app.log app2.log app3.log app4.log pair.out et.out sshd.log)
 
 if [ "${1:-}" != --inside ]; then
     [ -x "${3:-}/etserver" ] && [ -x "$3/et" ] && [ -x "$3/etterminal" ] ||
-        skip "the real Eternal Terminal is not at ${3:-(no path given)} (../shared/et beside the repository)"
+        skip "Eternal Terminal was not built with the app (no source: see cmake's output)"
     for tool in avahi-browse avahi-daemon dbus-daemon dbus-run-session dbus-send curl ssh \
         ssh-keygen unshare ip script setpriv /usr/sbin/sshd; do
         command -v "$tool" >/dev/null || skip "$tool is not installed (scripts/setup.sh installs it)"
@@ -41,6 +42,10 @@ if [ "${2:-}" != --session ]; then
     mount -t tmpfs tmpfs /tmp
     mount -t tmpfs tmpfs /run
     mkdir -p /run/dbus /run/sshd /run/avahi-daemon
+    # etterminal on the PATH an SSH login gets, where the client starts it by name; the package
+    # puts it in /usr/bin.
+    mount -t tmpfs tmpfs /usr/local/bin
+    cp "$4/etterminal" /usr/local/bin/
     ip link set lo up
     ip link set lo multicast on
     dbus-daemon --system --fork
@@ -124,7 +129,7 @@ wait "$pair_pid" || fail "quivractl pair exited with $?"
 step "an et session through the supervised server, as the paired user with that key"
 marker="quivra-et-$RANDOM"
 from=$(ms)
-timeout 30 script -qec "$et/et --terminal-path $et/etterminal --serverfifo /tmp/et.fifo \
+timeout 30 script -qec "$et/et --serverfifo /tmp/et.fifo \
     -c 'echo $marker shell \$\$; exit' -p 2022 --ssh-option IdentityFile=$work/phone_key \
     --ssh-option IdentitiesOnly=yes --ssh-option StrictHostKeyChecking=no \
     --ssh-option UserKnownHostsFile=/dev/null $(id -un)@127.0.0.1" /dev/null >"$work/et.out" 2>&1 ||

@@ -37,7 +37,8 @@ QString sshRequestTitle();
 QString sshRequest();
 QString noNetworkRequest();
 
-// The one command that installs Eternal Terminal here, or nothing where there is no package.
+// The commands, one a line, that install Eternal Terminal's package here, or nothing where there
+// is none. Asked only where the app has no server of its own.
 QString etserverInstallCommand();
 
 #ifndef Q_OS_MACOS

@@ -110,13 +110,36 @@ QString sshNotRunningOn(const QString &osRelease)
     return QStringLiteral("SSH server is not running. Install and start OpenSSH's sshd.");
 }
 
+namespace {
+
+// Debian's own archive has no Eternal Terminal; its project keeps a repository of its own.
+QString etDebianRepositorySteps(const QString &osRelease)
+{
+    static const QRegularExpression field(QStringLiteral("^VERSION_CODENAME=\"?([a-z]+)\"?$"),
+                                          QRegularExpression::MultilineOption);
+    const QString codename = field.match(osRelease).captured(1);
+    return QStringLiteral(
+               "sudo mkdir -m 0755 -p /etc/apt/keyrings\n"
+               "curl -sSL https://github.com/MisterTea/debian-et/raw/master/et.gpg | sudo tee "
+               "/etc/apt/keyrings/et.gpg >/dev/null\n"
+               "echo \"deb [signed-by=/etc/apt/keyrings/et.gpg] "
+               "https://mistertea.github.io/debian-et/debian-source/ %1 main\" | sudo tee "
+               "/etc/apt/sources.list.d/et.list\n"
+               "sudo apt update && sudo apt install et")
+        .arg(codename.isEmpty() ? QStringLiteral("$(. /etc/os-release && echo $VERSION_CODENAME)")
+                                : codename);
+}
+
+} // namespace
+
 QString etserverInstallCommandOn(const QString &osRelease)
 {
-    // Debian has no package: its users build from source, which the download page explains.
     for (const QString &id : family(osRelease)) {
         if (id == QLatin1String("ubuntu"))
             return QStringLiteral(
                 "sudo add-apt-repository ppa:jgmath2000/et && sudo apt install et");
+        if (id == QLatin1String("debian"))
+            return etDebianRepositorySteps(osRelease);
         if (id == QLatin1String("fedora"))
             return QStringLiteral("sudo dnf install et");
         if (id == QLatin1String("arch"))

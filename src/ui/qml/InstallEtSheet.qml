@@ -28,8 +28,9 @@ ThemedSurface {
         Text {
             Layout.fillWidth: true
             wrapMode: Text.Wrap
-            text: "QuivraMac keeps your iPhone's sessions alive with Eternal Terminal's etserver, "
-                + "which you install once. QuivraMac finds it on your PATH."
+            text: "This copy of QuivraMac was built without its own Eternal Terminal server, "
+                + "which keeps your iPhone's sessions alive. Install Eternal Terminal once: "
+                + "QuivraMac finds its etserver on your PATH."
             font.pixelSize: 13
             color: Theme.textSecondary
         }
@@ -68,6 +69,7 @@ ThemedSurface {
             }
             Button {
                 objectName: "copyInstallCommand"
+                Layout.alignment: Qt.AlignTop
                 text: "Copy"
                 onClicked: Ui.copyText(sheet.command)
             }
