@@ -166,6 +166,9 @@ private Q_SLOTS:
             "ssh-ed25519 " + goodBlob + " phone\rcommand=x",
             "ssh-ed25519 " + goodBlob + " " + QByteArray(257, 'c'),
             "ssh-ed25519 " + QByteArray(QByteArray::fromBase64(goodBlob) + "trailing").toBase64(),
+            // Forms sshd reads, but not the one a phone sends, which every reader agrees on.
+            "ssh-ed25519\t" + goodBlob,
+            "ssh-ed25519  " + goodBlob,
         };
         for (const QByteArray &key : refused)
             QVERIFY2(pairWith(key) == invalidKey, key.constData());

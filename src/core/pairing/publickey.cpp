@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -83,6 +84,18 @@ bool isAcceptable(const QString &key)
 {
     const auto parsed = SshKey::fromLine(key.toUtf8());
     if (!parsed || !parsed->options.isEmpty())
+        return false;
+    // A line break would end the entry early and start another.
+    if (key.contains(u'\n') || key.contains(u'\r'))
+        return false;
+    // Only the form a phone sends, one space between the fields and none before: what is stored
+    // then reads as the same key to every reader, the devices list's and sshd's alike.
+    const QStringList fields = key.split(u' ');
+    if (fields.size() < 2 || fields[0] != parsed->type)
+        return false;
+    const auto base64 = QByteArray::fromBase64Encoding(fields[1].toLatin1(),
+                                                       QByteArray::AbortOnBase64DecodingErrors);
+    if (!base64 || *base64 != parsed->blob)
         return false;
     if (parsed->type != QLatin1String("ssh-ed25519") && parsed->type != QLatin1String("ssh-rsa"))
         return false;
