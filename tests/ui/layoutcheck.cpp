@@ -137,6 +137,19 @@ QStringList faults(QQuickWindow *window)
         if (text->property("truncated").toBool() && !text->property("mayElide").toBool())
             found.append(describe(text) + ": cut short");
     }
+    // Names and log lines come from phones: a text that may read its content as markup would
+    // render a tag, or fetch the image it names. Only styled text built from escaped parts may.
+    for (QQuickItem *text : std::as_const(texts)) {
+        // Controls' own labels (buttons, check boxes) show titles of ours.
+        const QString type =
+            QString::fromLatin1(text->metaObject()->className()).section('_', 0, 0);
+        if (type != QLatin1String("QQuickText") && type != QLatin1String("QQuickTextEdit"))
+            continue;
+        const int format = text->property("textFormat").toInt();
+        const bool markup = format == 1 || format == 2 || format == 3; // rich, automatic, markdown
+        if (markup)
+            found.append(describe(text) + ": may read its text as markup");
+    }
 #ifndef Q_OS_MACOS
     for (QQuickItem *text : std::as_const(texts)) {
         if (testsupport::speaksOfAMac(text->property("text").toString()))

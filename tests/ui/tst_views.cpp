@@ -4,6 +4,9 @@
 #include "ui/uicontroller.h"
 
 #include <QClipboard>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QTcpSocket>
 
 // What each view shows for each state of the one ServerManager.
 class TestViews : public QObject
@@ -162,10 +165,9 @@ private Q_SLOTS:
         QSignalSpy requested(&h().ui(), &UiController::windowRequested);
         click("lastPairedRow");
         QCOMPARE(requested.value(0).value(0).toString(), "settings");
-        QCOMPARE(h().ui().settingsTab(), UiController::DevicesTab);
-        // "Settings..." opens on General again.
-        h().ui().openWindow("settings");
-        QCOMPARE(h().ui().settingsTab(), UiController::GeneralTab);
+        // The window takes the tab once; opened again by the tray menu, it starts on General.
+        QCOMPARE(h().ui().takeSettingsTab(), UiController::DevicesTab);
+        QCOMPARE(h().ui().takeSettingsTab(), UiController::GeneralTab);
 
         QQuickItem *view = h().show("SettingsView");
         view->setProperty("selectedTab", UiController::DevicesTab);
@@ -188,6 +190,37 @@ private Q_SLOTS:
         QVERIFY(keys.open(QIODevice::ReadOnly));
         QVERIFY(!keys.readAll().contains("ssh-ed25519"));
         QCOMPARE(DeviceList::shortFingerprint(fingerprint).size(), 7 + 12 + 1);
+    }
+
+    // A phone names itself: a tag in its name is shown as typed, and an image it names is never
+    // fetched. An image the test itself asks for proves that fetches reach the listener.
+    void namesFromPhonesAreShownAsTyped()
+    {
+        QTcpServer web;
+        QVERIFY(web.listen(QHostAddress::LocalHost));
+        QByteArray asked;
+        connect(&web, &QTcpServer::newConnection, &web, [&] {
+            QTcpSocket *socket = web.nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket,
+                    [&, socket] { asked += socket->readAll(); });
+        });
+        const QString url = QStringLiteral("http://127.0.0.1:%1/").arg(web.serverPort());
+        const QString name = "<img src=\"" + url + "name.png\"><b>Eve</b>";
+        h().pairPhone(name, QDate(2026, 11, 20));
+
+        h().show("MenuBarView");
+        QTRY_COMPARE(text("lastPairedRow"), "Last paired: " + name);
+        QVERIFY(h().visibleTexts().contains("Last paired: " + name));
+        h().show("SettingsView")->setProperty("selectedTab", UiController::DevicesTab);
+        QTRY_VERIFY(h().find<QObject>("deviceName"));
+        QCOMPARE(text("deviceName"), name);
+        h().grab();
+
+        QQmlComponent probe(qmlEngine(h().view()));
+        probe.setData("import QtQuick\nImage { source: \"" + url.toUtf8() + "probe.png\" }", {});
+        const std::unique_ptr<QObject> image(probe.create());
+        QTRY_VERIFY(asked.contains("GET /probe.png"));
+        QVERIFY2(!asked.contains("name.png"), asked.constData());
     }
 };
 

@@ -20,8 +20,12 @@ void PairingNotifier::notify(const PairedDevice &device)
         QStringLiteral("/org/freedesktop/Notifications"),
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
     call << QStringLiteral("QuivraMac") << uint(0) << QStringLiteral("quivramac")
-         << QStringLiteral("Paired with %1").arg(device.name)
-         << QStringLiteral("It can now log in to this computer. Key %1").arg(device.fingerprint)
+         << QStringLiteral("Phone paired")
+         // The name is the phone's own and the body is markup to most notification services: a
+         // name holding a tag would be rendered or fetched. The summary stays fixed, since some
+         // services read markup there too.
+         << QStringLiteral("%1 can now log in to this computer. Key %2")
+                .arg(device.name.toHtmlEscaped(), device.fingerprint.toHtmlEscaped())
          << QStringList() << QVariantMap() << int(-1);
     auto *watcher =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);

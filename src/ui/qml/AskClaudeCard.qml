@@ -28,9 +28,10 @@ Rectangle {
         Row {
             spacing: 6
             SymbolImage { name: "sparkles"; size: 14; color: Theme.purple }
-            Text { text: "Ask Claude Code"; font.pixelSize: 14; font.weight: Font.DemiBold; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: "Ask Claude Code"; font.pixelSize: 14; font.weight: Font.DemiBold; color: Theme.text }
         }
         Text {
+            textFormat: Text.PlainText
             objectName: "promptPreview"
             width: parent.width
             text: model.preview
@@ -60,6 +61,7 @@ Rectangle {
                     color: model.copied ? Theme.green : Theme.accentColor
                 }
                 Text {
+                    textFormat: Text.PlainText
                     anchors.verticalCenter: parent.verticalCenter
                     text: model.copied ? "Copied!" : "Copy to Clipboard"
                     font.pixelSize: 13

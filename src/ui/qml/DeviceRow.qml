@@ -34,6 +34,7 @@ Item {
         RowLayout {
             Layout.fillWidth: true
             Text {
+                textFormat: Text.PlainText
                 objectName: "deviceName"
                 // A long name may be shortened; the confirmation shows it whole.
                 property bool mayElide: true
@@ -47,7 +48,7 @@ Item {
             LinkButton {
                 objectName: "revokeButton"
                 visible: !row.confirming
-                text: "Revoke\u2026"
+                text: "Revoke..."
                 color: Theme.red
                 onClicked: row.askRevoke()
             }
@@ -63,6 +64,7 @@ Item {
                 ToolTip.text: row.fingerprint
                 ToolTip.delay: 500
                 contentItem: Text {
+                    textFormat: Text.PlainText
                     text: fingerprintLabel.text
                     font.family: Theme.monospace
                     font.pixelSize: 11
@@ -70,7 +72,7 @@ Item {
                 }
             }
             LinkButton { text: "Copy"; onClicked: Ui.copyText(row.fingerprint) }
-            Text { text: "Paired " + row.paired; font.pixelSize: 11; color: Theme.textSecondary }
+            Text { textFormat: Text.PlainText; text: "Paired " + row.paired; font.pixelSize: 11; color: Theme.textSecondary }
         }
         ColumnLayout {
             visible: row.confirming
@@ -78,6 +80,7 @@ Item {
             Layout.topMargin: 6
             spacing: 8
             Text {
+                textFormat: Text.PlainText
                 Layout.fillWidth: true
                 text: "Revoke \u201c" + row.name + "\u201d? It will no longer be able to log in to this computer."
                 wrapMode: Text.Wrap

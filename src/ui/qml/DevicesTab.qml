@@ -4,7 +4,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QuivraMac.Ui
 
-// The phones that can log in: name, key fingerprint, when it paired, and "Revoke…" behind a
+// The phones that can log in: name, key fingerprint, when it paired, and "Revoke..." behind a
 // confirmation that names the phone.
 ColumnLayout {
     id: tab
@@ -15,6 +15,7 @@ ColumnLayout {
     property string outcome: ""
 
     Text {
+        textFormat: Text.PlainText
         Layout.leftMargin: 16
         Layout.topMargin: 16
         text: "Paired Devices"
@@ -23,6 +24,7 @@ ColumnLayout {
         color: Theme.text
     }
     Text {
+        textFormat: Text.PlainText
         objectName: "revokeOutcome"
         Layout.fillWidth: true
         Layout.leftMargin: 16
@@ -43,6 +45,7 @@ ColumnLayout {
         color: Theme.card
         clip: true
         Text {
+            textFormat: Text.PlainText
             objectName: "noDevices"
             anchors.centerIn: parent
             width: parent.width - 40

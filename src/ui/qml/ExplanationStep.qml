@@ -20,6 +20,7 @@ Item {
             SymbolImage { anchors.centerIn: parent; name: device.systemName; size: 48; color: Theme.text }
         }
         Text {
+            textFormat: Text.PlainText
             anchors.horizontalCenter: parent.horizontalCenter
             text: device.label
             font.pixelSize: 13
@@ -63,7 +64,7 @@ Item {
             height: 20
             SymbolImage { anchors.centerIn: parent; name: bullet.icon; size: 14; color: Theme.accentColor }
         }
-        Text { text: bullet.text; font.pixelSize: 15; color: Theme.text }
+        Text { textFormat: Text.PlainText; text: bullet.text; font.pixelSize: 15; color: Theme.text }
     }
 
     Shortcut {
@@ -87,6 +88,7 @@ Item {
             DeviceIcon { systemName: "desktopcomputer"; label: Wording.machineLabel }
         }
         Text {
+            textFormat: Text.PlainText
             Layout.alignment: Qt.AlignHCenter
             text: "A bridge that never drops."
             font.pixelSize: 24
@@ -94,6 +96,7 @@ Item {
             color: Theme.text
         }
         Text {
+            textFormat: Text.PlainText
             Layout.alignment: Qt.AlignHCenter
             horizontalAlignment: Text.AlignHCenter
             text: Wording.explanationBody

@@ -8,6 +8,7 @@ RowLayout {
     default property alias value: valueSlot.data
     Layout.fillWidth: true
     Text {
+        textFormat: Text.PlainText
         text: row.label
         font.pixelSize: 13
         color: Theme.text

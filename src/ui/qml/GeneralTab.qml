@@ -24,6 +24,7 @@ ScrollView {
         }
     }
     component SectionHeader: Text {
+        textFormat: Text.PlainText
         font.pixelSize: 11
         font.weight: Font.DemiBold
         color: Theme.textSecondary
@@ -39,7 +40,7 @@ ScrollView {
         SectionBox {
             RowLayout {
                 Layout.fillWidth: true
-                Text { text: "Start server automatically"; font.pixelSize: 13; color: Theme.text }
+                Text { textFormat: Text.PlainText; text: "Start server automatically"; font.pixelSize: 13; color: Theme.text }
                 Item { Layout.fillWidth: true }
                 Switch {
                     objectName: "autoStartSwitch"
@@ -51,7 +52,7 @@ ScrollView {
             }
             FormRow {
                 label: "Port"
-                Text { text: String(ServerManager.port); font.pixelSize: 13; color: Theme.textSecondary }
+                Text { textFormat: Text.PlainText; text: String(ServerManager.port); font.pixelSize: 13; color: Theme.textSecondary }
             }
             FormRow {
                 label: "Local IP"
@@ -77,6 +78,7 @@ ScrollView {
                     color: ServerManager.isRunning ? Theme.green : Theme.gray
                 }
                 Text {
+                    textFormat: Text.PlainText
                     objectName: "runningText"
                     text: ServerManager.isRunning ? "Running" : "Stopped"
                     font.pixelSize: 13
@@ -85,6 +87,7 @@ ScrollView {
             }
             InstallLink { visible: Ui.etserverMissing }
             Text {
+                textFormat: Text.PlainText
                 objectName: "statusReason"
                 Layout.fillWidth: true
                 Layout.topMargin: -6
@@ -99,6 +102,7 @@ ScrollView {
                 label: "Uptime"
                 visible: ServerManager.isRunning
                 Text {
+                    textFormat: Text.PlainText
                     id: uptimeText
                     objectName: "uptimeText"
                     text: Ui.uptimeText(ServerManager.uptime)

@@ -22,6 +22,7 @@ RowLayout {
         Layout.fillWidth: true
         spacing: 1
         Text {
+            textFormat: Text.PlainText
             // Fills the row so the switch stays at its end, with or without a reason below.
             Layout.fillWidth: true
             text: "QuivraMac"
@@ -30,6 +31,7 @@ RowLayout {
             color: Theme.text
         }
         Text {
+            textFormat: Text.PlainText
             objectName: "serverStatus"
             text: header.isRunning ? "Port " + header.port : "Server off"
             font.pixelSize: 11
@@ -39,6 +41,7 @@ RowLayout {
         // empty text would otherwise ask the input method for its direction, which crashes Qt's
         // Wayland client on a seat without a keyboard.
         Text {
+            textFormat: Text.PlainText
             objectName: "serverReason"
             Layout.fillWidth: true
             Layout.preferredWidth: 0

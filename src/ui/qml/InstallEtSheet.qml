@@ -20,12 +20,14 @@ ThemedSurface {
         spacing: 14
 
         Text {
+            textFormat: Text.PlainText
             text: "Install Eternal Terminal"
             font.pixelSize: 17
             font.weight: Font.DemiBold
             color: Theme.text
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             wrapMode: Text.Wrap
             text: "This copy of QuivraMac was built without its own Eternal Terminal server, "
@@ -35,6 +37,7 @@ ThemedSurface {
             color: Theme.textSecondary
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             wrapMode: Text.Wrap
             text: sheet.command
@@ -75,6 +78,7 @@ ThemedSurface {
             }
         }
         Text {
+            textFormat: Text.PlainText
             Layout.fillWidth: true
             wrapMode: Text.Wrap
             text: "2. Choose Start Server in the QuivraMac panel."

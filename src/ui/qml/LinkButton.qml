@@ -9,6 +9,7 @@ AbstractButton {
     Accessible.name: text
     hoverEnabled: true
     contentItem: Text {
+        textFormat: Text.PlainText
         text: link.text
         font.pixelSize: link.pixelSize
         font.underline: link.hovered

@@ -14,6 +14,7 @@ ColumnLayout {
         Layout.rightMargin: 16
         Layout.topMargin: 16
         Text {
+            textFormat: Text.PlainText
             text: "Server Logs"
             font.pixelSize: 15
             font.weight: Font.DemiBold
@@ -24,7 +25,7 @@ ColumnLayout {
             objectName: "clearButton"
             text: "Clear"
             Accessible.name: text
-            contentItem: Text { text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
+            contentItem: Text { textFormat: Text.PlainText; text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
             onClicked: Ui.clearLogs()
         }
         AbstractButton {
@@ -32,7 +33,7 @@ ColumnLayout {
             text: "Copy"
             Accessible.name: text
             Layout.leftMargin: 12
-            contentItem: Text { text: "Copy"; font.pixelSize: 13; color: Theme.accentColor }
+            contentItem: Text { textFormat: Text.PlainText; text: "Copy"; font.pixelSize: 13; color: Theme.accentColor }
             onClicked: Ui.copyText(ServerManager.logs)
         }
     }

@@ -25,7 +25,7 @@ ThemedSurface {
         MenuRowButton {
             objectName: "installEtRow"
             visible: Ui.etserverMissing
-            title: "How to install Eternal Terminal\u2026"
+            title: "How to install Eternal Terminal..."
             symbol: "questionmark.circle"
             onClicked: Ui.openWindow("installEt")
         }

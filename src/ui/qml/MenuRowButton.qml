@@ -39,6 +39,7 @@ AbstractButton {
             }
         }
         Text {
+            textFormat: Text.PlainText
             text: row.title
             font.pixelSize: 13
             color: Theme.text

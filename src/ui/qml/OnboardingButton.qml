@@ -11,6 +11,7 @@ AbstractButton {
     implicitWidth: Math.max(120, implicitContentWidth + 48)
     implicitHeight: implicitContentHeight + 24
     contentItem: Text {
+        textFormat: Text.PlainText
         text: button.title
         font.pixelSize: 15
         font.weight: Font.Medium

@@ -30,6 +30,7 @@ ColumnLayout {
 
             RowLayout {
                 Text {
+                    textFormat: Text.PlainText
                     text: "Pairing Mode"
                     font.pixelSize: 11
                     font.weight: Font.Medium
@@ -37,6 +38,7 @@ ColumnLayout {
                 }
                 Item { Layout.fillWidth: true }
                 Text {
+                    textFormat: Text.PlainText
                     objectName: "countdownText"
                     text: countdown.text
                     font.pixelSize: 11
@@ -58,6 +60,7 @@ ColumnLayout {
                         radius: 6
                         color: Theme.controlBackground
                         Text {
+                            textFormat: Text.PlainText
                             anchors.centerIn: parent
                             text: ServerManager.pairingToken.charAt(box.index)
                             font.pixelSize: 20
@@ -69,6 +72,7 @@ ColumnLayout {
                 }
             }
             Text {
+                textFormat: Text.PlainText
                 text: "Enter this code in Quivra on your iPhone"
                 font.pixelSize: 11
                 color: Theme.textSecondary
@@ -77,6 +81,7 @@ ColumnLayout {
                 text: "Stop Pairing"
                 Accessible.name: text
                 contentItem: Text {
+                    textFormat: Text.PlainText
                     text: "Stop Pairing"
                     font.pixelSize: 12
                     font.weight: Font.Medium

@@ -19,9 +19,9 @@ Item {
             height: 24
             radius: 12
             color: Theme.card
-            Text { anchors.centerIn: parent; text: instruction.number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
+            Text { textFormat: Text.PlainText; anchors.centerIn: parent; text: instruction.number; font.pixelSize: 13; font.weight: Font.DemiBold; color: Theme.text }
         }
-        Text { anchors.verticalCenter: parent.verticalCenter; text: instruction.text; font.pixelSize: 15; color: Theme.text }
+        Text { textFormat: Text.PlainText; anchors.verticalCenter: parent.verticalCenter; text: instruction.text; font.pixelSize: 15; color: Theme.text }
     }
     component WaitingIndicator: Row {
         spacing: 4
@@ -97,6 +97,7 @@ Item {
                             radius: 8
                             color: Theme.card
                             Text {
+                                textFormat: Text.PlainText
                                 anchors.centerIn: parent
                                 text: Onboarding.code.charAt(box.index)
                                 font.pixelSize: 32
@@ -110,6 +111,7 @@ Item {
             }
         }
         Text {
+            textFormat: Text.PlainText
             objectName: "expiresText"
             Layout.alignment: Qt.AlignHCenter
             text: "Expires in " + countdown.text
@@ -121,12 +123,12 @@ Item {
         Row {
             Layout.alignment: Qt.AlignHCenter
             spacing: 6
-            Text { text: "Having trouble?"; font.pixelSize: 13; color: Theme.textSecondary }
+            Text { textFormat: Text.PlainText; text: "Having trouble?"; font.pixelSize: 13; color: Theme.textSecondary }
             AbstractButton {
                 text: "Try manual setup"
                 Accessible.name: text
                 onClicked: manual.open()
-                contentItem: Text { text: "Try manual setup"; font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
+                contentItem: Text { textFormat: Text.PlainText; text: "Try manual setup"; font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
             }
         }
     }
@@ -143,7 +145,7 @@ Item {
             font.pixelSize: 20
             color: Theme.text
         }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: "Exchanging keys..."; font.pixelSize: 14; color: Theme.textSecondary }
+        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: "Exchanging keys..."; font.pixelSize: 14; color: Theme.textSecondary }
     }
 
     Column {
@@ -152,8 +154,9 @@ Item {
         visible: Onboarding.pairingKind === Onboarding.Error
         spacing: 14
         SymbolImage { anchors.horizontalCenter: parent.horizontalCenter; name: "xmark.circle.fill"; size: 64; color: Theme.red }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
+        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: Onboarding.errorTitle; font.pixelSize: 24; font.weight: Font.DemiBold; color: Theme.text }
         Text {
+            textFormat: Text.PlainText
             width: parent.width
             text: Onboarding.errorMessage
             wrapMode: Text.Wrap
@@ -178,8 +181,8 @@ Item {
         background: Rectangle { radius: 12; color: Theme.card }
         contentItem: Column {
             spacing: 12
-            Text { text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
-            Text { text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
                 OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(Ui.manualSetupDetails) }

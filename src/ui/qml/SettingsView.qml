@@ -37,6 +37,7 @@ ThemedSurface {
                             color: tabs.currentIndex === tab.index ? Theme.accentColor : Theme.textSecondary
                         }
                         Text {
+                            textFormat: Text.PlainText
                             anchors.horizontalCenter: parent.horizontalCenter
                             text: tab.modelData.title
                             font.pixelSize: 11

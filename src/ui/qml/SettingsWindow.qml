@@ -3,6 +3,7 @@ import QtQuick.Window
 import QuivraMac.Ui
 
 Window {
+    id: window
     title: "Settings"
     width: 500
     height: 400
@@ -12,10 +13,13 @@ Window {
     maximumHeight: 400
     color: Theme.background
     // A window opened anew starts on the tab it was asked for, General unless said otherwise.
-    onVisibleChanged: if (visible) view.selectedTab = Ui.settingsTab
+    onVisibleChanged: if (visible) view.selectedTab = Ui.takeSettingsTab()
     Connections {
         target: Ui
-        function onSettingsTabRequested() { view.selectedTab = Ui.settingsTab }
+        function onSettingsTabRequested() {
+            if (window.visible)
+                view.selectedTab = Ui.takeSettingsTab()
+        }
     }
     SettingsView {
         id: view

@@ -35,7 +35,7 @@ Item {
             }
         }
         SymbolImage { anchors.right: parent.right; anchors.rightMargin: 22; name: "arrow.up"; size: 20; color: Theme.text }
-        Text { anchors.horizontalCenter: parent.horizontalCenter; text: "QuivraMac lives here"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.text }
+        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: "QuivraMac lives here"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.text }
     }
 
     Shortcut {
@@ -54,8 +54,9 @@ Item {
             scale: step.checkmarkScale
             opacity: step.checkmarkOpacity
         }
-        Text { Layout.alignment: Qt.AlignHCenter; text: "You're all set!"; font.pixelSize: 28; font.weight: Font.DemiBold; color: Theme.text }
+        Text { textFormat: Text.PlainText; Layout.alignment: Qt.AlignHCenter; text: "You're all set!"; font.pixelSize: 28; font.weight: Font.DemiBold; color: Theme.text }
         Text {
+            textFormat: Text.PlainText
             objectName: "connectedText"
             Layout.alignment: Qt.AlignHCenter
             text: Wording.connectedToThisMachine(Onboarding.deviceName)
@@ -74,7 +75,7 @@ Item {
                 checked: Ui.launchAtLogin
                 onToggled: Ui.launchAtLogin = checked
             }
-            Text { anchors.verticalCenter: parent.verticalCenter; text: "Recommended"; font.pixelSize: 12; color: Theme.textSecondary }
+            Text { textFormat: Text.PlainText; anchors.verticalCenter: parent.verticalCenter; text: "Recommended"; font.pixelSize: 12; color: Theme.textSecondary }
         }
         OnboardingButton { Layout.alignment: Qt.AlignHCenter; title: "Done"; onClicked: step.done() }
     }

@@ -57,10 +57,10 @@ Item {
             }
         }
         Column {
-            Text { text: row.item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: row.item.name; font.pixelSize: 15; font.weight: Font.Medium; color: Theme.text }
             MovesIn {
                 shown: row.item.state === SystemCheck.Passed
-                Text { text: row.item.successMessage; font.pixelSize: 13; color: Theme.textSecondary }
+                Text { textFormat: Text.PlainText; text: row.item.successMessage; font.pixelSize: 13; color: Theme.textSecondary }
             }
         }
     }
@@ -82,6 +82,7 @@ Item {
                 spacing: 10
                 SymbolImage { name: "exclamationmark.triangle.fill"; size: 18; color: Theme.yellow }
                 Text {
+                    textFormat: Text.PlainText
                     objectName: "failureMessage"
                     // A distribution's install command makes this a sentence or two.
                     width: cardContent.width - 28
@@ -102,7 +103,7 @@ Item {
                 contentItem: Row {
                     spacing: 6
                     SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
-                    Text { text: "Try Again"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.accentColor }
+                    Text { textFormat: Text.PlainText; text: "Try Again"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.accentColor }
                 }
             }
         }
@@ -140,6 +141,7 @@ Item {
             y: 32
             spacing: 16
             Text {
+                textFormat: Text.PlainText
                 objectName: "checkTitle"
                 Layout.alignment: Qt.AlignHCenter
                 text: SystemCheck.title

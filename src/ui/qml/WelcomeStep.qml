@@ -33,6 +33,7 @@ Item {
             opacity: step.iconOpacity
         }
         Text {
+            textFormat: Text.PlainText
             Layout.topMargin: 32
             Layout.alignment: Qt.AlignHCenter
             text: "QuivraMac"
@@ -41,6 +42,7 @@ Item {
             color: Theme.text
         }
         Text {
+            textFormat: Text.PlainText
             Layout.topMargin: 12
             Layout.alignment: Qt.AlignHCenter
             text: Wording.welcomeTitle
@@ -48,6 +50,7 @@ Item {
             color: Theme.textSecondary
         }
         Text {
+            textFormat: Text.PlainText
             Layout.topMargin: 8
             Layout.alignment: Qt.AlignHCenter
             horizontalAlignment: Text.AlignHCenter

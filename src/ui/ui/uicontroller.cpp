@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace {
 const QString autoStartKey = QStringLiteral("autoStartServer");
 const QString launchAtLoginKey = QStringLiteral("launchAtLogin");
@@ -96,10 +98,12 @@ void UiController::clearLogs()
 
 void UiController::openWindow(const QString &id)
 {
-    // Opened from the panel's "Settings...", the window starts on General.
-    if (id == QStringLiteral("settings"))
-        m_settingsTab = GeneralTab;
     Q_EMIT windowRequested(id);
+}
+
+int UiController::takeSettingsTab()
+{
+    return std::exchange(m_settingsTab, GeneralTab);
 }
 
 void UiController::openSettings(SettingsTab tab)

@@ -20,8 +20,6 @@ class UiController : public QObject
     // What a person enters in the phone app to add this computer by hand.
     Q_PROPERTY(QString manualSetupDetails READ manualSetupDetails NOTIFY manualSetupDetailsChanged)
     Q_PROPERTY(DeviceList *devices READ devices CONSTANT)
-    // The settings tab the settings window shows when it opens.
-    Q_PROPERTY(int settingsTab READ settingsTab NOTIFY settingsTabRequested)
     // The last start found no etserver: the views offer the steps to install it.
     Q_PROPERTY(bool etserverMissing READ etserverMissing NOTIFY etserverMissingChanged)
 
@@ -36,7 +34,6 @@ public:
     void setLaunchAtLogin(bool on);
     QString manualSetupDetails() const;
     DeviceList *devices() { return &m_devices; }
-    int settingsTab() const { return m_settingsTab; }
     bool etserverMissing() const;
 
     enum SettingsTab { GeneralTab, LogsTab, DevicesTab };
@@ -50,6 +47,9 @@ public:
     Q_INVOKABLE void openWindow(const QString &id);
     // The settings window on that tab, whether it was open or not.
     Q_INVOKABLE void openSettings(SettingsTab tab);
+    // The tab asked for by the last openSettings, once: the settings window takes it when it
+    // shows, so that a window opened any other way (the tray menu, quivractl) starts on General.
+    Q_INVOKABLE int takeSettingsTab();
     Q_INVOKABLE void quit();
     Q_INVOKABLE void copyText(const QString &text);
     Q_INVOKABLE QString uptimeText(double seconds) const;
