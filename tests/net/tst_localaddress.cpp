@@ -1,5 +1,6 @@
 #include "net/hostlabel.h"
 #include "net/localaddress.h"
+#include "pairing/phoneservice.h"
 #include "testsupport.h"
 
 using net::InterfaceAddress;
@@ -59,9 +60,10 @@ private Q_SLOTS:
             QStringLiteral("100.7.7.7"));
     }
 
-    // The system's own interface list feeds the choice: a LAN interface with an IPv4 and an
-    // IPv6 address, added to this test's private network, is what phones are told to use.
-    void systemAddressComesFromTheInterfaces()
+    // The system's own interface list feeds the choice, and the phone service follows it as the
+    // network changes after start-up: a LAN interface with an IPv4 and an IPv6 address, added to
+    // this test's private network and removed again.
+    void addressFollowsTheInterfaces()
     {
         const auto ip = [](const QStringList &arguments) {
             QProcess process;
@@ -69,13 +71,21 @@ private Q_SLOTS:
             return process.waitForFinished(5000) && process.exitStatus() == QProcess::NormalExit
                 && process.exitCode() == 0;
         };
+        ServerEnvironment env =
+            testsupport::environment(std::make_shared<testsupport::GuardedProcessTable>());
+        env.localIP = net::getLocalIP;
+        PhoneService phones(env, [] { return false; });
+        QCOMPARE(phones.localIP(), QStringLiteral("127.0.0.1"));
+
         if (!ip({ "link", "add", "eth7", "type", "veth", "peer", "name", "peer7" }))
             QSKIP("cannot add a network interface here (needs root in a private network)");
         QVERIFY(ip({ "address", "add", "fd00::7/64", "dev", "eth7" }));
         QVERIFY(ip({ "address", "add", "10.9.8.7/24", "dev", "eth7" }));
         QVERIFY(ip({ "link", "set", "eth7", "up" }));
         QCOMPARE(net::getLocalIP(), QStringLiteral("10.9.8.7"));
-        ip({ "link", "del", "eth7" });
+        QTRY_COMPARE(phones.localIP(), QStringLiteral("10.9.8.7"));
+        QVERIFY(ip({ "link", "del", "eth7" }));
+        QTRY_COMPARE(phones.localIP(), QStringLiteral("127.0.0.1"));
     }
 
     void hostLabelIsNameUpToFirstDot()

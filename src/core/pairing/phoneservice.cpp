@@ -18,6 +18,8 @@ PhoneService::PhoneService(const ServerEnvironment &environment, ServerRunning s
     connect(&m_devices, &DeviceRegistry::devicesChanged, this,
             &PhoneService::lastPairedDeviceChanged);
     connect(&m_retry, &ClockTimer::timeout, this, &PhoneService::listen);
+    connect(&m_addresses, &net::AddressWatcher::changed, this,
+            [this] { setLocalIP(m_env.localIP()); });
     m_listener.onPairingRequest = [this](const PairingResult &result) {
         return completePairing(result);
     };

@@ -2,6 +2,7 @@
 
 #include "devices/deviceregistry.h"
 #include "devices/paireddevice.h"
+#include "net/addresswatcher.h"
 #include "pairing/pairinglistener.h"
 #include "pairing/pairingsession.h"
 #include "server/clocktimer.h"
@@ -33,6 +34,8 @@ public:
     bool isListening() const { return m_listener.isListening(); }
     // Why phones cannot reach this computer, while the listener retries; empty otherwise.
     QString problem() const { return m_problem; }
+    // The address phones are told to use, worked out again whenever the machine's addresses
+    // change and when the user switches pairing on.
     QString localIP() const { return m_localIP; }
     // The newest of the phones that can log in; empty while there is none.
     QString lastPairedDevice() const;
@@ -65,4 +68,5 @@ private:
     DeviceRegistry m_devices;
     PairingListener m_listener;
     ClockTimer m_retry;
+    net::AddressWatcher m_addresses;
 };
