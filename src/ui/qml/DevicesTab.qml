@@ -13,6 +13,10 @@ ColumnLayout {
     // The fingerprint whose revoke waits for confirmation, and what the last revoke said.
     property string confirming: ""
     property string outcome: ""
+    // What the last revoke did stays only until the list changes again (that phone paired anew,
+    // say); revoke() itself changes the list before it reports.
+    readonly property int deviceCount: Ui.devices.count
+    onDeviceCountChanged: outcome = ""
 
     Text {
         textFormat: Text.PlainText

@@ -81,7 +81,7 @@ ThemedSurface {
             textFormat: Text.PlainText
             Layout.fillWidth: true
             wrapMode: Text.Wrap
-            text: "2. Choose Start Server in the QuivraMac panel."
+            text: "2. Turn on the server with the switch in the QuivraMac panel."
             font.pixelSize: 13
             color: Theme.text
         }
