@@ -16,20 +16,11 @@ inline QString symbolic()
 {
     return QStringLiteral(":/QuivraMac/Icons/quivramac-symbolic.svg");
 }
-// The tray's question mark before the first run is complete, in the same grey.
-inline QString setupSymbolic()
-{
-    return QStringLiteral(":/QuivraMac/Icons/quivramac-setup-symbolic.svg");
-}
 // For panels that draw icons as they are: a mid tone that stands at 3:1 or more against light
-// and dark panels alike, once set up and before.
+// and dark panels alike (the tray's other states have drawings of the same kind beside it).
 inline QString tray()
 {
     return QStringLiteral(":/QuivraMac/Icons/quivramac-tray.svg");
-}
-inline QString setupTray()
-{
-    return QStringLiteral(":/QuivraMac/Icons/quivramac-setup-tray.svg");
 }
 
 // The SVG at `file` drawn antialiased on a transparent side x side square, exactly as the build

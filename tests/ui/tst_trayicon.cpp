@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+Q_DECLARE_METATYPE(TrayIcon::Status)
+
 // The tray item's looks and where its panel goes, without a desktop.
 class TestTrayIcon : public QObject
 {
@@ -31,41 +33,48 @@ private Q_SLOTS:
         QFETCH(QString, desktops);
         QFETCH(bool, recoloured);
         QCOMPARE(TrayIcon::trayRecoloursSymbolicIcons(statusNotifierItem, desktops), recoloured);
-        for (const bool done : { true, false }) {
-            const QIcon icon = TrayIcon::icon(done, recoloured);
-            if (recoloured && QIcon::hasThemeIcon(TrayIcon::iconName(done))) {
-                QCOMPARE(icon.name(), TrayIcon::iconName(done));
-                continue;
-            }
-            QCOMPARE(icon.name(), QString());
-            QCOMPARE(icon.pixmap(22).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),
-                     appicon::render(done ? appicon::tray() : appicon::setupTray(), 22));
+        // Every state looks different from every other, in either kind of tray.
+        using State = TrayIcon::State;
+        QList<QImage> looks;
+        for (const State state :
+             { State::NotSetUp, State::Pairing, State::Running, State::Stopped }) {
+            const QIcon icon = TrayIcon::icon(state, recoloured);
+            if (recoloured && QIcon::hasThemeIcon(TrayIcon::iconName(state)))
+                QCOMPARE(icon.name(), TrayIcon::iconName(state));
+            else
+                QCOMPARE(icon.name(), QString());
+            const QImage look = icon.pixmap(22).toImage();
+            QVERIFY(!look.isNull());
+            QVERIFY2(!looks.contains(look), qPrintable(TrayIcon::iconName(state)));
+            looks.append(look);
         }
-        QVERIFY(TrayIcon::icon(true, recoloured).pixmap(22).toImage()
-                != TrayIcon::icon(false, recoloured).pixmap(22).toImage());
     }
 
     void toolTipSaysServerStateAndPairingTime_data()
     {
-        QTest::addColumn<bool>("running");
-        QTest::addColumn<int>("secondsLeft");
+        QTest::addColumn<TrayIcon::Status>("status");
         QTest::addColumn<QString>("text");
-        QTest::newRow("off") << false << -1 << "QuivraMac\nServer off";
-        QTest::newRow("running") << true << -1 << "QuivraMac\nServer running on port 2022";
-        QTest::newRow("pairing") << true << 271
+        QTest::newRow("off") << TrayIcon::Status {} << "QuivraMac\nServer off";
+        QTest::newRow("running") << TrayIcon::Status { true, true, 2022, {}, -1 }
+                                 << "QuivraMac\nServer running on port 2022";
+        QTest::newRow("failing") << TrayIcon::Status {
+            true, false, 2022, "port 2022 is in use by another program"
+        } << "QuivraMac\nServer not running: port 2022 is in use by another program";
+        QTest::newRow("first run") << TrayIcon::Status { false, false, 2022, {}, -1 }
+                                   << "QuivraMac\nServer off\nSetup is not finished yet";
+        QTest::newRow("pairing") << TrayIcon::Status { true, true, 2022, {}, 271 }
                                  << "QuivraMac\nServer running on port 2022\nPairing: the code "
                                     "expires in 4:31";
-        QTest::newRow("last second") << true << 0
+        QTest::newRow("last second") << TrayIcon::Status { true, true, 2022, {}, 0 }
                                      << "QuivraMac\nServer running on port 2022\nPairing: the "
                                         "code expires in 0:00";
     }
 
     void toolTipSaysServerStateAndPairingTime()
     {
-        QFETCH(bool, running);
-        QFETCH(int, secondsLeft);
+        QFETCH(TrayIcon::Status, status);
         QFETCH(QString, text);
-        QCOMPARE(TrayIcon::toolTip(running, 2022, secondsLeft), text);
+        QCOMPARE(TrayIcon::toolTip(status), text);
     }
 
     void panelSitsBesideWhatWasClicked_data()

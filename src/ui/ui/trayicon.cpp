@@ -36,21 +36,40 @@ TrayIcon::TrayIcon(QuivraMacApp *app, ServerManager *manager, WindowManager *win
     m_menu.addAction(QStringLiteral("Quit QuivraMac"), qApp, &QCoreApplication::quit);
 
     m_pairingTick.setInterval(1000);
-    connect(&m_pairingTick, &QTimer::timeout, this, &TrayIcon::updateToolTip);
-    connect(manager, &ServerManager::isRunningChanged, this, &TrayIcon::updateToolTip);
-    connect(manager, &ServerManager::isPairingChanged, this, &TrayIcon::updateToolTip);
-    connect(manager, &ServerManager::pairingExpiresAtChanged, this, &TrayIcon::updateToolTip);
-    connect(app, &QuivraMacApp::hasCompletedOnboardingChanged, this, &TrayIcon::updateIcon);
+    connect(&m_pairingTick, &QTimer::timeout, this, &TrayIcon::update);
+    connect(manager, &ServerManager::isRunningChanged, this, &TrayIcon::update);
+    connect(manager, &ServerManager::isPairingChanged, this, &TrayIcon::update);
+    connect(manager, &ServerManager::pairingExpiresAtChanged, this, &TrayIcon::update);
+    connect(manager, &ServerManager::failureReasonChanged, this, &TrayIcon::update);
+    connect(app, &QuivraMacApp::hasCompletedOnboardingChanged, this, &TrayIcon::update);
     connect(&m_host, &TrayHost::availableChanged, this, &TrayIcon::followHost);
     followHost();
 }
 
 TrayIcon::~TrayIcon() = default;
 
-QString TrayIcon::iconName(bool hasCompletedOnboarding)
+TrayIcon::State TrayIcon::state(bool hasCompletedOnboarding, bool pairing, bool running)
 {
-    return hasCompletedOnboarding ? QStringLiteral("quivramac-symbolic")
-                                  : QStringLiteral("quivramac-setup-symbolic");
+    if (!hasCompletedOnboarding)
+        return State::NotSetUp;
+    if (pairing)
+        return State::Pairing;
+    return running ? State::Running : State::Stopped;
+}
+
+QString TrayIcon::iconName(State state)
+{
+    switch (state) {
+    case State::NotSetUp:
+        return QStringLiteral("quivramac-setup-symbolic");
+    case State::Pairing:
+        return QStringLiteral("quivramac-pairing-symbolic");
+    case State::Running:
+        return QStringLiteral("quivramac-symbolic");
+    case State::Stopped:
+        break;
+    }
+    return QStringLiteral("quivramac-stopped-symbolic");
 }
 
 bool TrayIcon::trayRecoloursSymbolicIcons(bool statusNotifierItem, const QString &desktops)
@@ -62,23 +81,33 @@ bool TrayIcon::trayRecoloursSymbolicIcons(bool statusNotifierItem, const QString
         || names.contains(QLatin1String("GNOME"), Qt::CaseInsensitive);
 }
 
-QIcon TrayIcon::icon(bool hasCompletedOnboarding, bool recoloured)
+QIcon TrayIcon::icon(State state, bool recoloured)
 {
+    // Each symbol has a drawing of the same name for trays that show pixels as they are.
+    QString file = iconName(state);
+    file.replace(QLatin1String("-symbolic"), QLatin1String("-tray"));
     QIcon drawing;
-    const QString file = hasCompletedOnboarding ? appicon::tray() : appicon::setupTray();
     for (const int side : { 16, 22, 24, 32, 48, 64 })
-        drawing.addPixmap(QPixmap::fromImage(appicon::render(file, side)));
+        drawing.addPixmap(QPixmap::fromImage(
+            appicon::render(QStringLiteral(":/QuivraMac/Icons/%1.svg").arg(file), side)));
     // A theme name would make hosts that draw icons as they are show the pale symbolic grey.
-    return recoloured ? QIcon::fromTheme(iconName(hasCompletedOnboarding), drawing) : drawing;
+    return recoloured ? QIcon::fromTheme(iconName(state), drawing) : drawing;
 }
 
-QString TrayIcon::toolTip(bool running, int port, int secondsLeft)
+QString TrayIcon::toolTip(const Status &status)
 {
-    QString text = QStringLiteral("QuivraMac\n")
-        + (running ? QStringLiteral("Server running on port %1").arg(port)
-                   : QStringLiteral("Server off"));
-    if (secondsLeft >= 0)
-        text += QStringLiteral("\nPairing: the code expires in ") + formats::countdown(secondsLeft);
+    QString text = QStringLiteral("QuivraMac\n");
+    if (status.running)
+        text += QStringLiteral("Server running on port %1").arg(status.port);
+    else if (!status.failure.isEmpty())
+        text += QStringLiteral("Server not running: ") + status.failure;
+    else
+        text += QStringLiteral("Server off");
+    if (!status.setUp)
+        text += QStringLiteral("\nSetup is not finished yet");
+    if (status.secondsLeft >= 0)
+        text += QStringLiteral("\nPairing: the code expires in ")
+            + formats::countdown(status.secondsLeft);
     return text;
 }
 
@@ -115,8 +144,7 @@ void TrayIcon::createItem()
     m_tray = std::make_unique<QSystemTrayIcon>();
     m_tray->setContextMenu(&m_menu);
     connect(m_tray.get(), &QSystemTrayIcon::activated, this, &TrayIcon::onActivated);
-    updateIcon();
-    updateToolTip();
+    update();
     m_tray->show();
 }
 
@@ -178,23 +206,25 @@ void TrayIcon::showPanel()
         openPanel();
 }
 
-void TrayIcon::updateIcon()
-{
-    if (m_tray)
-        m_tray->setIcon(
-            icon(m_app->hasCompletedOnboarding(),
-                 trayRecoloursSymbolicIcons(m_statusNotifierItem,
-                                            qEnvironmentVariable("XDG_CURRENT_DESKTOP"))));
-}
-
-void TrayIcon::updateToolTip()
+void TrayIcon::update()
 {
     const bool pairing = m_manager->isPairing();
     if (pairing != m_pairingTick.isActive())
         pairing ? m_pairingTick.start() : m_pairingTick.stop();
+    if (!m_tray)
+        return;
+    const bool running = m_manager->isRunning();
+    const bool setUp = m_app->hasCompletedOnboarding();
+    const State shown = state(setUp, pairing, running);
+    if (shown != m_state || m_tray->icon().isNull()) {
+        m_state = shown;
+        m_tray->setIcon(
+            icon(shown,
+                 trayRecoloursSymbolicIcons(m_statusNotifierItem,
+                                            qEnvironmentVariable("XDG_CURRENT_DESKTOP"))));
+    }
     const qint64 left =
         (m_manager->pairingExpiresAt() - QDateTime::currentMSecsSinceEpoch()) / 1000;
-    if (m_tray)
-        m_tray->setToolTip(toolTip(m_manager->isRunning(), m_manager->port(),
-                                   pairing ? int(std::max<qint64>(left, 0)) : -1));
+    m_tray->setToolTip(toolTip({ setUp, running, m_manager->port(), m_manager->failureReason(),
+                                 pairing ? int(std::max<qint64>(left, 0)) : -1 }));
 }

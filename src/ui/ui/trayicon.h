@@ -34,16 +34,29 @@ public:
     // window while it is open, else the panel where the item was last activated.
     void showPanel();
 
+    // What the item shows, the first that holds: the first run not finished, pairing mode on,
+    // the server running, the server stopped (or failing, the reason in the tool tip).
+    enum class State { NotSetUp, Pairing, Running, Stopped };
+    static State state(bool hasCompletedOnboarding, bool pairing, bool running);
     // The theme's name for the symbol; the desktop recolours "-symbolic" icons for its panel.
-    static QString iconName(bool hasCompletedOnboarding);
+    static QString iconName(State state);
     // Whether the tray recolours symbolic icons to suit its panel: StatusNotifierItem hosts of
     // the desktops known to (KDE, GNOME). Others, and every XEmbed tray, show pixels as they are.
     static bool trayRecoloursSymbolicIcons(bool statusNotifierItem, const QString &desktops);
     // The themed symbol for a tray that recolours it where the theme has it (installed), else
     // drawings in a mid tone that read on light and dark panels alike.
-    static QIcon icon(bool hasCompletedOnboarding, bool recoloured);
-    // The server's state and, while pairing (secondsLeft >= 0), the code's time left.
-    static QString toolTip(bool running, int port, int secondsLeft);
+    static QIcon icon(State state, bool recoloured);
+    // The server's state, why it is not running when something failed, the first run when it is
+    // not finished and, while pairing (secondsLeft >= 0), the code's time left.
+    struct Status
+    {
+        bool setUp = true;
+        bool running = false;
+        int port = 2022;
+        QString failure;
+        int secondsLeft = -1;
+    };
+    static QString toolTip(const Status &status);
 
 Q_SIGNALS:
     void shownChanged();
@@ -55,8 +68,7 @@ private:
     // Where the item is: its geometry where the tray says, else the cell under the pointer.
     QRect itemCell() const;
     void openPanel();
-    void updateIcon();
-    void updateToolTip();
+    void update();
 
     QuivraMacApp *m_app;
     ServerManager *m_manager;
@@ -71,6 +83,7 @@ private:
     bool m_followed = false;
     bool m_everShown = false;
     QTimer m_pairingTick;
+    State m_state = State::NotSetUp;
     // The item's cell at its last activation, where the menu's entries open the panel too.
     QRect m_cell;
     // Since an activation last opened the panel: a second click within the double-click
