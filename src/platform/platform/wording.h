@@ -41,6 +41,12 @@ QString noNetworkRequest();
 // is none. Asked only where the app has no server of its own.
 QString etserverInstallCommand();
 
+// The windows' titles, as the task bar lists them beside the system's own windows.
+QString setupWindowTitle();
+QString settingsWindowTitle();
+// Whether the first-run window draws its own top strip instead of the system's title bar.
+bool setupWindowFrameless();
+
 #ifndef Q_OS_MACOS
 // The same for a system described by os-release(5) text, in its own package manager's words.
 QString sshNotRunningOn(const QString &osRelease);

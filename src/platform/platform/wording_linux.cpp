@@ -6,6 +6,21 @@
 
 namespace wording {
 
+// Decorated like every other window of the desktop, with titles that do not read as the
+// system's own Settings.
+QString setupWindowTitle()
+{
+    return QStringLiteral("QuivraMac Setup");
+}
+QString settingsWindowTitle()
+{
+    return QStringLiteral("QuivraMac Settings");
+}
+bool setupWindowFrameless()
+{
+    return false;
+}
+
 QString machine()
 {
     return QStringLiteral("computer");

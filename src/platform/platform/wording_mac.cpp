@@ -2,6 +2,19 @@
 
 namespace wording {
 
+QString setupWindowTitle()
+{
+    return QStringLiteral("Setup");
+}
+QString settingsWindowTitle()
+{
+    return QStringLiteral("Settings");
+}
+bool setupWindowFrameless()
+{
+    return true;
+}
+
 QString machine()
 {
     return QStringLiteral("Mac");

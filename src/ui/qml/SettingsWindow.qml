@@ -4,7 +4,7 @@ import QuivraMac.Ui
 
 Window {
     id: window
-    title: "Settings"
+    title: Wording.settingsWindowTitle
     width: 500
     height: 400
     minimumWidth: 500

@@ -3,12 +3,13 @@ import QtQuick.Controls
 import QtQuick.Window
 import QuivraMac.Ui
 
-// The first-run window: no title bar, its content reaching the top edge. The top strip moves the
-// window and holds the only close button, since Escape is not a way out of every screen.
+// The first-run window. Where it has no title bar (macOS), its content reaches the top edge and a
+// top strip of its own moves the window and holds the close button, since Escape is not a way
+// out of every screen; elsewhere the desktop's title bar does both.
 Window {
     id: window
-    title: "Setup"
-    flags: Qt.Window | Qt.FramelessWindowHint
+    title: Wording.setupWindowTitle
+    flags: Wording.setupWindowFrameless ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
     width: 600
     height: 500
     minimumWidth: 600
@@ -24,6 +25,7 @@ Window {
     OnboardingView { id: content; anchors.fill: parent }
 
     Item {
+        visible: Wording.setupWindowFrameless
         width: parent.width
         height: 28
         DragHandler {

@@ -17,6 +17,9 @@ class ScreenTexts : public QObject
     Q_PROPERTY(QString explanationBody READ explanationBody CONSTANT)
     Q_PROPERTY(QString explanationTrayRow READ explanationTrayRow CONSTANT)
     Q_PROPERTY(QString etserverInstallCommand READ etserverInstallCommand CONSTANT)
+    Q_PROPERTY(QString setupWindowTitle READ setupWindowTitle CONSTANT)
+    Q_PROPERTY(QString settingsWindowTitle READ settingsWindowTitle CONSTANT)
+    Q_PROPERTY(bool setupWindowFrameless READ setupWindowFrameless CONSTANT)
 
 public:
     using QObject::QObject;
@@ -27,6 +30,9 @@ public:
     static QString explanationBody() { return wording::explanationBody(); }
     static QString explanationTrayRow() { return wording::explanationTrayRow(); }
     static QString etserverInstallCommand() { return wording::etserverInstallCommand(); }
+    static QString setupWindowTitle() { return wording::setupWindowTitle(); }
+    static QString settingsWindowTitle() { return wording::settingsWindowTitle(); }
+    static bool setupWindowFrameless() { return wording::setupWindowFrameless(); }
     Q_INVOKABLE static QString connectedToThisMachine(const QString &deviceName)
     {
         return wording::connectedToThisMachine().arg(deviceName);
