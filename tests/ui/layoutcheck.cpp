@@ -2,8 +2,13 @@
 
 #include "testsupport.h"
 
+#include <QHash>
+#include <QImage>
 #include <QQuickItem>
 #include <QQuickWindow>
+
+#include <cmath>
+#include <optional>
 
 namespace layoutcheck {
 namespace {
@@ -111,6 +116,88 @@ void collect(QQuickItem *item, QList<QQuickItem *> &texts, QList<QQuickItem *> &
         collect(child, texts, controls);
 }
 
+// Relative luminance as WCAG defines it, from 0 (black) to 1 (white).
+double luminance(QColor colour)
+{
+    const auto linear = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(QColor a, QColor b)
+{
+    const double la = luminance(a), lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+bool enabled(const QQuickItem *item)
+{
+    for (; item; item = item->parentItem())
+        if (!item->isEnabled())
+            return false;
+    return true;
+}
+
+// What the text is drawn on: the colour most of its box shows, glyphs being the smaller part.
+// None where the text is not on screen (scrolled out of view) or lies on nothing painted.
+std::optional<QColor> backgroundUnder(const QQuickItem *item, const QImage &grab, qreal scale)
+{
+    QRectF visible = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    const qreal area = visible.width() * visible.height();
+    for (const QQuickItem *up = item->parentItem(); up; up = up->parentItem()) {
+        if (up->clip() || up->inherits("QQuickFlickable"))
+            visible &= up->mapRectToScene(QRectF(0, 0, up->width(), up->height()));
+    }
+    if (visible.width() * visible.height() < area / 2)
+        return std::nullopt;
+    const QRect box = QRectF(visible.topLeft() * scale, visible.size() * scale)
+                          .toAlignedRect()
+                          .intersected(grab.rect());
+    QHash<QRgb, int> seen;
+    for (int y = box.top(); y <= box.bottom(); ++y)
+        for (int x = box.left(); x <= box.right(); ++x)
+            ++seen[grab.pixel(x, y)];
+    QRgb most = 0;
+    int count = 0;
+    for (auto it = seen.cbegin(); it != seen.cend(); ++it) {
+        if (it.value() > count) {
+            most = it.key();
+            count = it.value();
+        }
+    }
+    if (count == 0 || qAlpha(most) < 255)
+        return std::nullopt;
+    return QColor(most);
+}
+
+// WCAG AA: 4.5:1 for text, 3:1 for large text (24 px, or 18.66 px bold). A disabled control's
+// text is exempt.
+QString contrastFault(const QQuickItem *text, const QImage &grab, qreal scale)
+{
+    if (!enabled(text))
+        return {};
+    const std::optional<QColor> under = backgroundUnder(text, grab, scale);
+    if (!under)
+        return {};
+    const QColor background = *under;
+    QColor ink = text->property("color").value<QColor>();
+    const qreal alpha = ink.alphaF() * effectiveOpacity(text);
+    ink = QColor::fromRgbF(ink.redF() * alpha + background.redF() * (1 - alpha),
+                           ink.greenF() * alpha + background.greenF() * (1 - alpha),
+                           ink.blueF() * alpha + background.blueF() * (1 - alpha));
+    const QFont font = text->property("font").value<QFont>();
+    const qreal pixels = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * 4 / 3;
+    const bool large = pixels >= 24 || (pixels >= 18.66 && font.weight() >= QFont::DemiBold);
+    const double ratio = contrast(ink, background);
+    if (ratio >= (large ? 3.0 : 4.5))
+        return {};
+    return QStringLiteral("%1 on %2 is %3:1")
+        .arg(ink.name(), background.name())
+        .arg(ratio, 0, 'f', 1);
+}
+
 bool isAncestor(const QQuickItem *maybe, const QQuickItem *item)
 {
     for (const QQuickItem *up = item->parentItem(); up; up = up->parentItem())
@@ -149,6 +236,12 @@ QStringList faults(QQuickWindow *window)
         const bool markup = format == 1 || format == 2 || format == 3; // rich, automatic, markdown
         if (markup)
             found.append(describe(text) + ": may read its text as markup");
+    }
+    const QImage grab = window->grabWindow();
+    const qreal scale = grab.width() / qreal(window->width());
+    for (QQuickItem *text : std::as_const(texts)) {
+        if (const QString fault = contrastFault(text, grab, scale); !fault.isEmpty())
+            found.append(describe(text) + ": too little contrast, " + fault);
     }
 #ifndef Q_OS_MACOS
     for (QQuickItem *text : std::as_const(texts)) {

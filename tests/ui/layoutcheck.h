@@ -6,8 +6,8 @@ class QQuickWindow;
 
 // What a person would find wrong with a window's layout, one line per fault, naming the item:
 // a visible control or text that is not fully inside the window (or inside a scroll area that
-// can bring it into view), a text cut short, a text that may read markup, and two visible controls
-// on top of each other.
+// can bring it into view), a text cut short, a text that may read markup, a text with less contrast
+// against what it is drawn on than WCAG AA asks, and two visible controls on top of each other.
 namespace layoutcheck {
 
 QStringList faults(QQuickWindow *window);

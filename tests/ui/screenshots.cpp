@@ -174,6 +174,23 @@ int checkCatchesAShortWindow()
     return 0;
 }
 
+// And a text too faint to read: the panel's status in nearly its background's colour.
+int checkCatchesFaintText()
+{
+    QmlHarness h;
+    h.show("MenuBarView");
+    const QColor faint = h.view()->property("color").value<QColor>().darker(115);
+    h.find<QObject>("serverStatus")->setProperty("color", faint);
+    settledGrab(h);
+    const QStringList faults = layoutcheck::faults(h.window()).filter("contrast");
+    if (faults.isEmpty()) {
+        qCritical("the layout check passed a status in %s", qPrintable(faint.name()));
+        return 1;
+    }
+    qInfo("a faint status fails as it should: %s", qPrintable(faults.first()));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -285,5 +302,6 @@ int main(int argc, char *argv[])
     failures += onboardingShots(out);
     failures += missingEtserverShots(out);
     failures += checkCatchesAShortWindow();
+    failures += checkCatchesFaintText();
     return failures == 0 ? 0 : 1;
 }

@@ -93,7 +93,7 @@ Item {
                 Button {
                     objectName: "confirmRevoke"
                     text: "Revoke"
-                    palette.button: Theme.red
+                    palette.button: Theme.redFill
                     palette.buttonText: "#ffffff"
                     onClicked: row.confirm()
                 }

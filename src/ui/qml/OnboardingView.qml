@@ -3,12 +3,11 @@ import QtQuick.Controls
 import QuivraMac.Ui
 
 // The setup window's root: one screen per step, each moving in from the trailing edge while
-// fading in and out to the leading edge.
-Rectangle {
+// fading in and out to the leading edge. Its controls take the scheme's palette.
+ThemedSurface {
     id: view
     implicitWidth: 600
     implicitHeight: 500
-    color: Theme.background
 
     readonly property var screens: [welcome, explanation, check, pairing, success]
     Component { id: welcome; WelcomeStep { onContinueClicked: Onboarding.welcomeContinue() } }

@@ -11,12 +11,17 @@ QtObject {
     readonly property color card: dark ? "#2c2c2e" : "#f2f2f7"
     readonly property color text: dark ? "#f5f5f7" : "#1d1d1f"
     readonly property color textSecondary: dark ? "#98989d" : "#6e6e73"
-    readonly property color accentColor: dark ? "#0a84ff" : "#007aff"
+    // Every text colour stands at 4.5:1 or more on the background and the card (WCAG AA), which
+    // the system's own blue, red and orange do not; the layout check measures it.
+    readonly property color accentColor: dark ? "#4da3ff" : "#0060c7"
+    // Behind white text: a highlighted button, a destructive one.
+    readonly property color accentFill: dark ? "#0b6bd6" : "#0060c7"
+    readonly property color redFill: dark ? "#d92c20" : "#d70015"
 
     readonly property color green: dark ? "#30d158" : "#28cd41"
     readonly property color gray: dark ? "#8e8e93" : "#8e8e93"
-    readonly property color orange: dark ? "#ff9f0a" : "#ff9500"
-    readonly property color red: dark ? "#ff453a" : "#ff3b30"
+    readonly property color orange: dark ? "#ff9f0a" : "#c93400"
+    readonly property color red: dark ? "#ff6961" : "#d70015"
     readonly property color yellow: dark ? "#ffd60a" : "#ffcc00"
     readonly property color purple: dark ? "#bf5af2" : "#af52de"
     readonly property color controlBackground: dark ? "#3a3a3c" : "#e9e9ed"

@@ -15,13 +15,13 @@ Rectangle {
     palette.placeholderText: Theme.textSecondary
     palette.button: Theme.controlBackground
     palette.buttonText: Theme.text
-    palette.brightText: Theme.background
+    palette.brightText: "#ffffff"
     palette.highlight: Theme.accentColor
     palette.highlightedText: "#ffffff"
     palette.light: Theme.controlPressed
     palette.midlight: Theme.controlBackground
     palette.mid: Theme.controlBorder
-    palette.dark: Theme.accentColor
+    palette.dark: Theme.accentFill
     palette.shadow: Theme.separator
     palette.toolTipBase: Theme.card
     palette.toolTipText: Theme.text
