@@ -141,15 +141,23 @@ bool enabled(const QQuickItem *item)
 }
 
 // What the text is drawn on: the colour most of its box shows, glyphs being the smaller part.
-// None where the text is not on screen (scrolled out of view) or lies on nothing painted.
-std::optional<QColor> backgroundUnder(const QQuickItem *item, const QImage &grab, qreal scale)
+// The part of the item's box a person can see now: inside every clipping ancestor and scroll
+// area's view.
+QRectF visibleRect(const QQuickItem *item)
 {
     QRectF visible = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-    const qreal area = visible.width() * visible.height();
     for (const QQuickItem *up = item->parentItem(); up; up = up->parentItem()) {
         if (up->clip() || up->inherits("QQuickFlickable"))
             visible &= up->mapRectToScene(QRectF(0, 0, up->width(), up->height()));
     }
+    return visible;
+}
+
+// None where the text is not on screen (scrolled out of view) or lies on nothing painted.
+std::optional<QColor> backgroundUnder(const QQuickItem *item, const QImage &grab, qreal scale)
+{
+    const QRectF visible = visibleRect(item);
+    const qreal area = item->width() * item->height();
     if (visible.width() * visible.height() < area / 2)
         return std::nullopt;
     const QRect box = QRectF(visible.topLeft() * scale, visible.size() * scale)
@@ -255,8 +263,8 @@ QStringList faults(QQuickWindow *window)
             const QQuickItem *b = controls[j];
             if (isAncestor(a, b) || isAncestor(b, a))
                 continue;
-            const QRectF overlap = a->mapRectToScene(a->boundingRect())
-                                       .intersected(b->mapRectToScene(b->boundingRect()));
+            // Only what shows: a control scrolled out of view under another is not in its way.
+            const QRectF overlap = visibleRect(a).intersected(visibleRect(b));
             if (overlap.width() > 1 && overlap.height() > 1)
                 found.append(describe(a) + " and " + describe(b) + ": on top of each other");
         }

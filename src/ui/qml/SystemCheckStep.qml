@@ -116,8 +116,8 @@ Item {
         onActivated: step.allPassedContinue()
     }
 
-    // Everything above the bottom button; a failure card that does not fit scrolls, with its
-    // "Try Again" brought into view as it appears.
+    // Everything above the bottom button. A failure card that does not fit scrolls; the title and
+    // the failing row stay in view above it, as they say what the card is about.
     Flickable {
         id: scroller
         objectName: "checkScroller"
@@ -128,10 +128,10 @@ Item {
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar { policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
         NumberAnimation {
-            id: revealRetry
+            id: backToTop
             target: scroller
             property: "contentY"
-            to: Math.max(0, scroller.contentHeight - scroller.height)
+            to: 0
             duration: 300
             easing.type: Easing.InOutQuad
         }
@@ -162,7 +162,7 @@ Item {
                 Layout.alignment: Qt.AlignHCenter
                 Layout.preferredWidth: Math.min(500, step.width - 48)
                 shown: SystemCheck.failedIndex >= 0
-                onArrived: revealRetry.restart()
+                onArrived: backToTop.restart()
                 FailedCheckCard { width: parent.width; onRetry: SystemCheck.start() }
             }
         }
