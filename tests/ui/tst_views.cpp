@@ -99,11 +99,17 @@ private Q_SLOTS:
         QQuickItem *view = h().show("SettingsView");
         QCOMPARE(text("runningText"), "Stopped");
         QCOMPARE(text("startStopButton"), "Start Server");
-        QVERIFY(!h().find<QQuickItem>("uptimeText")->isVisible());
+        const auto uptimeShown = [&] { return h().find<QQuickItem>("uptimeRow")->opacity() > 0; };
+        const auto buttonAt = [&] {
+            return h().find<QQuickItem>("startStopButton")->mapToScene(QPointF(0, 0));
+        };
+        QVERIFY(!uptimeShown());
+        const QPointF stoppedAt = buttonAt();
         click("startStopButton");
         QVERIFY(h().manager().isRunning());
         QCOMPARE(text("startStopButton"), "Stop Server");
-        QVERIFY(h().find<QQuickItem>("uptimeText")->isVisible());
+        QVERIFY(uptimeShown());
+        QCOMPARE(buttonAt(), stoppedAt); // the button does not jump as the row appears
         QCOMPARE(text("uptimeText"), "0s");
         // Shown, it ticks by itself.
         QTRY_VERIFY(text("uptimeText") != "0s");
@@ -152,7 +158,8 @@ private Q_SLOTS:
         QVERIFY(h().find<QQuickItem>("statusReason")->isVisible());
         QVERIFY(h().find<QQuickItem>("installEtLink")->isVisible());
         h().show("InstallEtSheet");
-        QVERIFY(h().visibleTexts().contains("2. Turn on the server with the switch in the QuivraMac panel."));
+        QVERIFY(h().visibleTexts().contains(
+            "2. Turn on the server with the switch in the QuivraMac panel."));
     }
 
     void pairedPhonesAreListedAndRevokedWithConfirmation()

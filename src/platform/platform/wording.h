@@ -46,6 +46,8 @@ QString setupWindowTitle();
 QString settingsWindowTitle();
 // Whether the first-run window draws its own top strip instead of the system's title bar.
 bool setupWindowFrameless();
+// The settings' row that says whether the server runs, in the section "Status".
+QString statusRowLabel();
 
 #ifndef Q_OS_MACOS
 // The same for a system described by os-release(5) text, in its own package manager's words.

@@ -20,6 +20,10 @@ bool setupWindowFrameless()
 {
     return false;
 }
+QString statusRowLabel()
+{
+    return QStringLiteral("Server");
+}
 
 QString machine()
 {

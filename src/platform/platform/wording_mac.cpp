@@ -14,6 +14,10 @@ bool setupWindowFrameless()
 {
     return true;
 }
+QString statusRowLabel()
+{
+    return QStringLiteral("Status");
+}
 
 QString machine()
 {

@@ -69,7 +69,7 @@ ScrollView {
         SectionHeader { text: "Status"; Layout.topMargin: 8 }
         SectionBox {
             FormRow {
-                label: "Status"
+                label: Wording.statusRowLabel
                 Rectangle {
                     anchors.verticalCenter: parent.verticalCenter
                     width: 8
@@ -98,19 +98,23 @@ ScrollView {
                 font.pixelSize: 11
                 color: Theme.textSecondary
             }
+            // Kept in the layout while stopped, only not shown, so that the button below does not
+            // jump as the server starts and stops.
             FormRow {
+                objectName: "uptimeRow"
                 label: "Uptime"
-                visible: ServerManager.isRunning
+                opacity: ServerManager.isRunning ? 1 : 0
+                Accessible.ignored: !ServerManager.isRunning
                 Text {
-                    textFormat: Text.PlainText
                     id: uptimeText
+                    textFormat: Text.PlainText
                     objectName: "uptimeText"
                     text: Ui.uptimeText(ServerManager.uptime)
                     font.pixelSize: 13
                     color: Theme.textSecondary
                     UptimeWatch {
                         manager: ServerManager
-                        active: uptimeText.visible && uptimeText.Window.window !== null
+                        active: ServerManager.isRunning && uptimeText.Window.window !== null
                                 && uptimeText.Window.window.visible
                     }
                 }

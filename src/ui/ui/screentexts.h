@@ -20,6 +20,7 @@ class ScreenTexts : public QObject
     Q_PROPERTY(QString setupWindowTitle READ setupWindowTitle CONSTANT)
     Q_PROPERTY(QString settingsWindowTitle READ settingsWindowTitle CONSTANT)
     Q_PROPERTY(bool setupWindowFrameless READ setupWindowFrameless CONSTANT)
+    Q_PROPERTY(QString statusRowLabel READ statusRowLabel CONSTANT)
 
 public:
     using QObject::QObject;
@@ -33,6 +34,7 @@ public:
     static QString setupWindowTitle() { return wording::setupWindowTitle(); }
     static QString settingsWindowTitle() { return wording::settingsWindowTitle(); }
     static bool setupWindowFrameless() { return wording::setupWindowFrameless(); }
+    static QString statusRowLabel() { return wording::statusRowLabel(); }
     Q_INVOKABLE static QString connectedToThisMachine(const QString &deviceName)
     {
         return wording::connectedToThisMachine().arg(deviceName);
