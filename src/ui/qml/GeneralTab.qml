@@ -42,9 +42,8 @@ ScrollView {
                 Layout.fillWidth: true
                 Text { textFormat: Text.PlainText; text: "Start server automatically"; font.pixelSize: 13; color: Theme.text }
                 Item { Layout.fillWidth: true }
-                Switch {
+                ThemedSwitch {
                     objectName: "autoStartSwitch"
-                    palette.window: Theme.knob
                     Accessible.name: "Start server automatically"
                     checked: Ui.autoStartServer
                     onToggled: Ui.autoStartServer = checked

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 
 // Status line with the server switch, and why the server is not running when something keeps it.
@@ -53,12 +52,10 @@ RowLayout {
             color: Theme.textSecondary
         }
     }
-    Switch {
+    ThemedSwitch {
         objectName: "serverSwitch"
-        palette.window: Theme.knob
         Accessible.name: "Server"
         checked: header.isRunning
-        scale: 0.8
         // The switch never keeps its own position: it shows isRunning once that changes.
         onToggled: {
             header.toggle()

@@ -27,11 +27,13 @@ AbstractButton {
     }
     contentItem: RowLayout {
         spacing: 0
+        // The symbol's column is kept in rows without one, so that every title starts at the same
+        // place, under the header's name.
         Item {
-            visible: row.symbol !== ""
             Layout.preferredWidth: 16
             implicitHeight: 13
             SymbolImage {
+                visible: row.symbol !== ""
                 anchors.verticalCenter: parent.verticalCenter
                 name: row.symbol
                 size: 13

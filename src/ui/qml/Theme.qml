@@ -29,6 +29,8 @@ QtObject {
     readonly property color separator: dark ? "#3d3d40" : "#dcdce0"
     readonly property color controlPressed: dark ? "#48484a" : "#d8d8dc"
     readonly property color controlBorder: dark ? "#636366" : "#b8b8bd"
+    // An off switch's track, at 3:1 or more against the background and the card.
+    readonly property color switchOff: dark ? "#7c7c80" : "#848489"
     // A switch's knob stays light on both schemes, as the desktop's own switches do.
     readonly property color knob: "#ffffff"
 
