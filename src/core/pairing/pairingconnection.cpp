@@ -1,25 +1,25 @@
 #include "pairing/pairingconnection.h"
 
-#include "pairing/requestparsing.h"
 #include "platform/logging.h"
-#include "platform/socketreset.h"
 
 #include <QStringDecoder>
 #include <QTcpSocket>
 
 PairingConnection::PairingConnection(QTcpSocket *socket, std::chrono::milliseconds readDeadline)
     : m_socket(socket)
-    , m_resetWatch(socket->socketDescriptor())
+    , m_hold(socket->socketDescriptor())
     , m_readDeadline(readDeadline)
 {
     m_socket->setParent(this);
     connect(m_socket, &QTcpSocket::readyRead, this, &PairingConnection::onReadyRead);
+    // Qt closes the socket at the peer's end of stream. A peer that only closed its sending side
+    // after its request still waits for the reply, which the held reference carries.
     connect(m_socket, &QTcpSocket::disconnected, this, [this] {
-        if (m_reading && m_buffer.isEmpty() && m_resetWatch.wasReset())
+        if (m_reading && m_buffer.isEmpty() && m_hold.wasReset())
             receiveFailed(QStringLiteral("Connection reset by peer"));
         else if (m_reading)
             finishReading();
-        else
+        else if (!m_hold.isHeld() || m_hold.wasReset())
             close();
     });
     connect(m_socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
@@ -93,7 +93,6 @@ void PairingConnection::finishReading()
         return;
     m_reading = false;
     m_deadline.stop();
-    m_resetWatch.release();
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString request = decoder.decode(m_buffer);
     if (m_buffer.isEmpty() || decoder.hasError()) {
@@ -102,7 +101,7 @@ void PairingConnection::finishReading()
         return;
     }
     qCInfo(lcConsole).nospace().noquote() << QStringLiteral("[PairingListener] Received request: ")
-            + requestparsing::printable(request.left(100)) + QStringLiteral("...");
+            + logging::oneLine(request.left(100)) + QStringLiteral("...");
     Q_EMIT requestReceived(request);
 }
 
@@ -124,7 +123,12 @@ void PairingConnection::send(const QByteArray &reply)
 {
     if (m_closed)
         return;
-    m_socket->write(reply);
+    if (m_socket->state() != QAbstractSocket::ConnectedState) {
+        if (QTcpSocket *replying = m_hold.takeForReply(this))
+            m_socket = replying;
+    }
+    if (m_socket->state() == QAbstractSocket::ConnectedState)
+        m_socket->write(reply);
     close();
 }
 
@@ -134,7 +138,7 @@ void PairingConnection::close()
         return;
     m_closed = true;
     m_reading = false;
-    m_resetWatch.release();
+    m_hold.release(); // else the connection would outlive Qt's close
     m_deadline.stop();
     qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Connection state: cancelled";
     Q_EMIT closed();

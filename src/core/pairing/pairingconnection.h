@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/socketreset.h"
+#include "platform/sockethold.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -48,7 +48,7 @@ private:
     void send(const QByteArray &reply);
 
     QTcpSocket *m_socket;
-    platform::SocketResetWatch m_resetWatch;
+    platform::SocketHold m_hold;
     QByteArray m_buffer;
     QTimer m_deadline;
     QTimer m_lingerLimit;

@@ -30,7 +30,8 @@ PairingListener::PairingListener(Setup setup, QObject *parent)
     });
     connect(&m_advertiser, &platform::DnsSdAdvertiser::registered, this,
             [this](const QString &name) {
-                qCInfo(lcConsole).nospace().noquote() << "PairingListener registered as: " << name;
+                qCInfo(lcConsole).nospace().noquote()
+                    << "PairingListener registered as: " << logging::oneLine(name);
                 Q_EMIT advertised(name);
             });
     connect(&m_advertiser, &platform::DnsSdAdvertiser::failed, this, [](const QString &error) {
@@ -112,7 +113,8 @@ void PairingListener::adopt(QTcpSocket *socket)
     auto *connection = new PairingConnection(socket, m_readDeadline);
     const QString address = connection->peerAddress();
     qCInfo(lcConsole).nospace().noquote()
-        << QStringLiteral("[PairingListener] New connection from ") + connection->peer();
+        << QStringLiteral("[PairingListener] New connection from ")
+            + logging::oneLine(connection->peer());
     qCInfo(lcConsole).nospace().noquote() << "[PairingListener] Connection state: ready";
     if (!makeRoomFor(address)) {
         connection->close();

@@ -25,7 +25,9 @@ class PairingListener : public QObject
 public:
     static constexpr int maxConnections = 32;
     static constexpr int maxConnectionsPerAddress = 4;
-    static constexpr int maxStatusRequestsInProgress = 4;
+    // Status reports being worked out at once, in all and per sender: a phone asks one at a time.
+    static constexpr int maxStatusRequestsInProgress = 16;
+    static constexpr int maxStatusRequestsPerAddress = 2;
 
     // What a request is judged against and what the status report reads.
     struct Setup
@@ -82,5 +84,6 @@ private:
     // Shared by all status requests, so that they share its verdict.
     std::shared_ptr<SshProbe> m_sshProbe;
     int m_statusRequestsInProgress = 0;
+    QHash<QString, int> m_statusRequestsPerAddress;
     std::chrono::milliseconds m_readDeadline = PairingConnection::defaultReadDeadline;
 };

@@ -87,17 +87,51 @@ void PairingSession::recordFailedAttempt(const QString &address)
         return;
     if (!m_failedAddresses.contains(address))
         m_failedAddresses.append(address);
+    if (++m_failedPerAddress[address] == maxFailedAttemptsPerAddress) {
+        qCInfo(lcLog).nospace().noquote()
+            << QStringLiteral("[QuivraMac] Someone at %1 is guessing the pairing code: ignoring "
+                              "it until the next code")
+                   .arg(logging::oneLine(address));
+        addGuesser(address);
+    }
     if (++m_failedAttempts < maxFailedAttempts)
         return;
     setPairing(false);
     m_offByItself = true;
+    for (const QString &guesser : std::as_const(m_failedAddresses))
+        addGuesser(guesser);
     qCInfo(lcLog).nospace().noquote()
         << QStringLiteral("[QuivraMac] Pairing mode disabled after %1 failed attempts")
                .arg(maxFailedAttempts);
     qCInfo(lcConsole).nospace().noquote()
         << QStringLiteral("Pairing mode disabled after %1 failed attempts from: %2")
                .arg(maxFailedAttempts)
-               .arg(m_failedAddresses.join(QStringLiteral(", ")));
+               .arg(logging::oneLine(m_failedAddresses.join(QStringLiteral(", "))));
+}
+
+bool PairingSession::ignores(const QString &address) const
+{
+    return m_failedPerAddress.value(address) >= maxFailedAttemptsPerAddress;
+}
+
+void PairingSession::addGuesser(const QString &address)
+{
+    if (m_guessers.contains(address))
+        return;
+    m_guessers.append(address);
+    Q_EMIT guessersChanged();
+}
+
+QString PairingSession::describeGuessers(const QStringList &addresses)
+{
+    if (addresses.isEmpty())
+        return {};
+    const qsizetype others = addresses.size() - 1;
+    return QStringLiteral("Someone is guessing the code from %1%2")
+        .arg(addresses.constFirst(),
+             others == 0       ? QString()
+                 : others == 1 ? QStringLiteral(" and 1 other address")
+                               : QStringLiteral(" and %1 other addresses").arg(others));
 }
 
 // A code is good for one pairing, a few wrong guesses and a limited time.
@@ -107,10 +141,15 @@ void PairingSession::issueToken()
     m_expiresAt = m_clock() + lifetime;
     m_failedAttempts = 0;
     m_failedAddresses.clear();
+    m_failedPerAddress.clear();
+    const bool hadGuessers = !m_guessers.isEmpty();
+    m_guessers.clear();
     if (m_isPairing)
         m_expiry.start(lifetime);
     Q_EMIT tokenChanged();
     Q_EMIT expiresAtChanged();
+    if (hadGuessers)
+        Q_EMIT guessersChanged();
 }
 
 void PairingSession::setPairing(bool on)

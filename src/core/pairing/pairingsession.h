@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -18,12 +19,18 @@ class PairingSession : public QObject
     Q_PROPERTY(QString token READ token NOTIFY tokenChanged)
     // Milliseconds since the epoch on the session's clock; the last code's, also once off.
     Q_PROPERTY(qint64 expiresAt READ expiresAt NOTIFY expiresAtChanged)
+    // Who is guessing the code: the addresses ignored after their wrong codes, and all that tried
+    // one once the code was switched off for too many; empty again with a fresh code.
+    Q_PROPERTY(QStringList guessers READ guessers NOTIFY guessersChanged)
 
 public:
     using Clock = std::function<std::chrono::system_clock::time_point()>;
 
     static constexpr std::chrono::seconds lifetime { 300 };
-    static constexpr int maxFailedAttempts = 5;
+    // At most this many guesses per code, a chance of 1 in 100,000 to find it; one sender's
+    // share is smaller, so that a sender alone cannot switch pairing off for everyone.
+    static constexpr int maxFailedAttempts = 10;
+    static constexpr int maxFailedAttemptsPerAddress = 3;
 
     explicit PairingSession(Clock clock = std::chrono::system_clock::now,
                             QObject *parent = nullptr);
@@ -44,8 +51,14 @@ public:
     void renew();
     // Pairing mode is on and the code still good; a code found expired switches it off.
     bool acceptsPairing();
-    // A wrong code or a request from a web page; the last allowed one switches pairing off.
+    // A wrong code: a sender's last allowed one has it ignored for the rest of the code, and the
+    // last allowed one in all switches pairing off.
     void recordFailedAttempt(const QString &address);
+    // The sender guessed too often: its requests are refused without their code being compared.
+    bool ignores(const QString &address) const;
+    QStringList guessers() const { return m_guessers; }
+    // One line for the screens and quivractl: someone is guessing, from where.
+    static QString describeGuessers(const QStringList &addresses);
     // Switches off once the code's time is up; its own timer calls it, tests after moving
     // the clock.
     void expireIfDue();
@@ -56,10 +69,12 @@ Q_SIGNALS:
     void isPairingChanged();
     void tokenChanged();
     void expiresAtChanged();
+    void guessersChanged();
 
 private:
     void setPairing(bool on);
     void issueToken();
+    void addGuesser(const QString &address);
 
     Clock m_clock;
     bool m_isPairing = false;
@@ -68,7 +83,10 @@ private:
     QString m_token;
     std::chrono::system_clock::time_point m_expiresAt;
     int m_failedAttempts = 0;
+    // The senders of wrong codes, in the order of their first, and how many each sent.
     QStringList m_failedAddresses;
+    QHash<QString, int> m_failedPerAddress;
+    QStringList m_guessers;
     // A steady backstop: the wall clock may be set back while a code is shown.
     QTimer m_expiry;
 };

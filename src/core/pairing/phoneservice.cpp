@@ -76,7 +76,8 @@ bool PhoneService::completePairing(const PairingResult &result)
 {
     if (!m_keys.install(result.publicKey))
         return false;
-    qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Paired with " << result.deviceName;
+    qCInfo(lcLog).nospace().noquote()
+        << "[QuivraMac] Paired with " << logging::oneLine(result.deviceName);
     const QDateTime now = QDateTime::currentDateTimeUtc();
     // The listener only passes keys that parse, so there is always an entry to record.
     const PairedDevice device =

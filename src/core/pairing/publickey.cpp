@@ -80,6 +80,23 @@ bool isAcceptableComment(const QString &comment)
 
 } // namespace
 
+QString withPlainComment(const QString &key)
+{
+    // The comment follows the second space; isAcceptable() refuses every other form.
+    const qsizetype blobEnd = key.indexOf(u' ', key.indexOf(u' ') + 1);
+    if (key.indexOf(u' ') < 0 || blobEnd < 0)
+        return key;
+    QString comment;
+    for (const char32_t c : QStringView(key).mid(blobEnd + 1).toUcs4()) {
+        const QChar::Category category = QChar::category(c);
+        if (category != QChar::Other_Format && category != QChar::Separator_Line
+            && category != QChar::Separator_Paragraph)
+            comment.append(QStringView(QChar::fromUcs4(c)));
+    }
+    return key.left(blobEnd)
+        + (comment.trimmed().isEmpty() ? QString() : QLatin1Char(' ') + comment);
+}
+
 bool isAcceptable(const QString &key)
 {
     const auto parsed = SshKey::fromLine(key.toUtf8());

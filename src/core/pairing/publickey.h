@@ -10,4 +10,9 @@ namespace publickey {
 // would change what the key allows.
 bool isAcceptable(const QString &key);
 
+// The key line with its comment's format characters (text direction, zero-width, byte-order
+// marks) and line and paragraph separators dropped: a comment that could pass for another's, or
+// break the line for a reader that splits there, is stored without them.
+QString withPlainComment(const QString &key);
+
 } // namespace publickey

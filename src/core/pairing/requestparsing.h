@@ -10,8 +10,13 @@ namespace requestparsing {
 
 QStringList lines(const QString &request);
 
-// The first line of any kind that begins with "name:" in any letter case; its value trimmed of
-// spaces and tabs. An empty value is none, and later lines are not consulted.
+// "METHOD SP target SP HTTP/1.x", header lines "name: value", then an empty line. Anything else
+// is not read further: a text without that frame could carry the code into the key's comment.
+bool isWellFormed(const QString &request);
+
+// The first header line (from the request line to the empty line) that begins with "name:" in
+// any letter case; its value trimmed of spaces and tabs. An empty value is none, and later lines
+// are not consulted.
 std::optional<QString> headerValue(const QString &name, const QString &request);
 
 // The last piece of the text split at every blank line, or the whole text when there is none.
@@ -20,15 +25,15 @@ QString body(const QString &request);
 // The request line's one "token=" parameter equals the code exactly, compared in constant time.
 bool tokenMatches(const QString &requestLine, const QString &token);
 
-// A browser's request: Origin or Sec-Fetch-* headers, or a Host that names no IP address,
-// "localhost" or "{hostLabel}.local". A phone app sends none of these.
-bool comesFromWebPage(const QString &request, const QString &hostLabel);
+// A browser's request: an Origin header, Sec-Fetch-* headers other than a "Sec-Fetch-Site: none"
+// (an address the user typed), or a Host that is none of ours, as after DNS rebinding. A phone
+// app sends none of these. Ours: IP literals, "localhost", names under ".local" (where the DNS-SD
+// daemon registers this host, under a new name after a conflict) and under ".ts.net" (Tailscale's
+// names), with a port or a final dot alike.
+bool comesFromWebPage(const QString &request);
 
-// Without terminal escapes and text-direction characters, line breaks and tabs kept: safe to
-// print a phone's text.
-QString printable(const QString &text);
-
-// Without control, line-breaking or text-direction characters, at most 64 characters.
+// Without control, format, line-breaking or text-direction characters, at most 64 characters:
+// a name that cannot pass for another's or break a line.
 QString sanitizeDeviceName(const QString &name);
 
 } // namespace requestparsing

@@ -15,30 +15,49 @@ const QString serverNotReady = QStringLiteral("Server not ready");
 
 void PairingListener::handleRequest(const QString &request, PairingConnection *connection)
 {
-    const QString requestLine = requestparsing::lines(request).constFirst();
-    if (request.isEmpty())
+    if (!requestparsing::isWellFormed(request)) {
         connection->sendResponse(badRequest, QStringLiteral("Invalid Request"));
-    else if (requestLine.contains(QLatin1String("GET /status")))
-        handleStatusRequest(connection);
-    else if (requestLine.contains(QLatin1String("/pair")))
-        handlePairRequest(requestLine, request, connection);
-    else
+        return;
+    }
+    const QString requestLine = requestparsing::lines(request).constFirst();
+    const bool status = requestLine.contains(QLatin1String("GET /status"));
+    if (!status && !requestLine.contains(QLatin1String("/pair"))) {
         connection->sendResponse(QStringLiteral("404 Not Found"), QStringLiteral("Not Found"));
+        return;
+    }
+    // One judgement for both: a page the user visits may neither pair nor read who and where
+    // this computer is. It is refused before any code is compared, so it is no guess either.
+    if (requestparsing::comesFromWebPage(request)) {
+        qCInfo(lcConsole).nospace().noquote()
+            << (status ? "Status Denied" : "Pairing Denied") << ": request from a web page";
+        connection->sendResponse(forbidden, QStringLiteral("Forbidden"));
+        return;
+    }
+    if (status)
+        handleStatusRequest(connection);
+    else
+        handlePairRequest(requestLine, request, connection);
 }
 
 void PairingListener::handleStatusRequest(PairingConnection *connection)
 {
-    // Each report waits for the SSH probe; a bounded number keeps a flood from piling up.
-    if (m_statusRequestsInProgress >= maxStatusRequestsInProgress) {
+    // Each report waits for the SSH probe; a bounded number keeps a flood from piling up, and a
+    // bound per sender keeps one sender's burst from taking everyone else's share.
+    const QString address = connection->peerAddress();
+    if (m_statusRequestsInProgress >= maxStatusRequestsInProgress
+        || m_statusRequestsPerAddress.value(address) >= maxStatusRequestsPerAddress) {
         connection->sendResponse(unavailable, serverNotReady);
         return;
     }
     ++m_statusRequestsInProgress;
+    ++m_statusRequestsPerAddress[address];
     auto *engine =
         new DiagnosticEngine(m_setup.serverRunning, m_sshProbe, m_setup.diagnostics, this);
     connect(engine, &DiagnosticEngine::finished, this,
-            [this, engine, connection = QPointer(connection)] {
+            [this, engine, address, connection = QPointer(connection)] {
                 --m_statusRequestsInProgress;
+                if (--m_statusRequestsPerAddress[address] == 0)
+                    m_statusRequestsPerAddress.remove(address);
                 engine->deleteLater();
                 if (connection)
                     connection->sendJSONResponse(
@@ -60,15 +79,16 @@ void PairingListener::handlePairRequest(const QString &requestLine, const QStrin
         connection->sendResponse(forbidden, QStringLiteral("Pairing mode not active"));
         return;
     }
-    if (requestparsing::comesFromWebPage(request, m_setup.diagnostics.hostLabel())) {
-        qCInfo(lcConsole).nospace().noquote() << "Pairing Denied: request from a web page";
-        session->recordFailedAttempt(connection->peerAddress());
-        connection->sendResponse(forbidden, QStringLiteral("Forbidden"));
+    const QString address = connection->peerAddress();
+    if (session->ignores(address)) {
+        qCInfo(lcConsole).nospace().noquote()
+            << "Pairing Denied: Too many wrong codes from " << logging::oneLine(address);
+        connection->sendResponse(forbidden, QStringLiteral("Too many wrong codes"));
         return;
     }
     if (!requestparsing::tokenMatches(requestLine, session->token())) {
         qCInfo(lcConsole).nospace().noquote() << "Pairing Denied: Invalid Token";
-        session->recordFailedAttempt(connection->peerAddress());
+        session->recordFailedAttempt(address);
         connection->sendResponse(QStringLiteral("401 Unauthorized"),
                                  QStringLiteral("Invalid Token"));
         return;
@@ -82,16 +102,17 @@ void PairingListener::handlePairRequest(const QString &requestLine, const QStrin
         connection->sendResponse(badRequest, QStringLiteral("Missing Key Body"));
         return;
     }
-    const QString key = body.trimmed();
+    const QString key = publickey::withPlainComment(body.trimmed());
     if (!publickey::isAcceptable(key)) {
         connection->sendResponse(badRequest, QStringLiteral("Invalid Key Format"));
         return;
     }
     // The key is on disk before the phone hears of success.
-    if (onPairingRequest && !onPairingRequest({ key, deviceName, connection->peerAddress() })) {
+    if (onPairingRequest && !onPairingRequest({ key, deviceName, address })) {
         connection->sendResponse(unavailable, serverNotReady);
         return;
     }
-    qCInfo(lcConsole).nospace().noquote() << "Pairing Success! Device: " << deviceName;
+    qCInfo(lcConsole).nospace().noquote()
+        << "Pairing Success! Device: " << logging::oneLine(deviceName);
     connection->sendResponse(QStringLiteral("200 OK"), QStringLiteral("Paired Successfully"));
 }

@@ -29,6 +29,8 @@ ServerManager::ServerManager(ServerEnvironment environment, QObject *parent)
     connect(&session, &PairingSession::tokenChanged, this, &ServerManager::pairingTokenChanged);
     connect(&session, &PairingSession::expiresAtChanged, this,
             &ServerManager::pairingExpiresAtChanged);
+    connect(&session, &PairingSession::guessersChanged, this,
+            &ServerManager::pairingGuessersChanged);
     connect(&m_phones, &PhoneService::localIPChanged, this, &ServerManager::localIPChanged);
     connect(&m_phones, &PhoneService::lastPairedDeviceChanged, this,
             &ServerManager::lastPairedDeviceChanged);

@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 // What the views, the session bus and quivractl observe: one view over the two parts that do
 // the work, the server's supervisor and the phone service, plus the app's log. It holds no
@@ -27,6 +28,8 @@ class ServerManager : public QObject
     Q_PROPERTY(PairingSession *pairingSession READ pairingSession CONSTANT)
     // When the current code expires, in milliseconds since the epoch.
     Q_PROPERTY(qint64 pairingExpiresAt READ pairingExpiresAt NOTIFY pairingExpiresAtChanged)
+    // Where someone is guessing the current code from; empty while nobody is.
+    Q_PROPERTY(QStringList pairingGuessers READ pairingGuessers NOTIFY pairingGuessersChanged)
     // Why the server is not running, or why phones cannot pair, in plain words; empty when
     // nothing is wrong.
     Q_PROPERTY(QString failureReason READ failureReason NOTIFY failureReasonChanged)
@@ -46,6 +49,7 @@ public:
     QString localIP() const { return m_phones.localIP(); }
     bool isPairing() const { return m_phones.session().isPairing(); }
     qint64 pairingExpiresAt() const { return m_phones.session().expiresAt(); }
+    QStringList pairingGuessers() const { return m_phones.session().guessers(); }
     QString logs() const { return m_log.text(); }
     // Replaces the whole log; clearing it from the settings window assigns an empty text.
     void setLogs(const QString &logs);
@@ -74,6 +78,7 @@ Q_SIGNALS:
     void logsChanged();
     void lastPairedDeviceChanged();
     void pairingExpiresAtChanged();
+    void pairingGuessersChanged();
     void failureReasonChanged();
 
 private:

@@ -96,6 +96,42 @@ void handle(QtMsgType type, const QMessageLogContext &context, const QString &te
 
 } // namespace
 
+QString oneLine(const QString &text)
+{
+    QString line;
+    line.reserve(text.size());
+    for (const char32_t c : text.toUcs4()) {
+        switch (c) {
+        case U'\\':
+            line += QLatin1String("\\\\");
+            continue;
+        case U'\r':
+            line += QLatin1String("\\r");
+            continue;
+        case U'\n':
+            line += QLatin1String("\\n");
+            continue;
+        case U'\t':
+            line += QLatin1String("\\t");
+            continue;
+        default:
+            break;
+        }
+        switch (QChar::category(c)) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            line += c < 0x100 ? QStringLiteral("\\x%1").arg(uint(c), 2, 16, QLatin1Char('0'))
+                              : QStringLiteral("\\u%1").arg(uint(c), 4, 16, QLatin1Char('0'));
+            break;
+        default:
+            line += QStringView(QChar::fromUcs4(c));
+        }
+    }
+    return line;
+}
+
 void install()
 {
     const QtMessageHandler current = qInstallMessageHandler(handle);

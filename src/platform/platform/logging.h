@@ -32,6 +32,12 @@ AppLog setAppLog(AppLog log);
 using ConsoleSink = std::function<void(const QString &line)>;
 ConsoleSink setConsoleSink(ConsoleSink sink);
 
+// Text a peer sent (a request, a name, an address), made fit for one console or log line: control
+// characters, line and paragraph separators and invisible format characters (text direction
+// among them) become visible escapes such as \r, \n, \x1b and \u202e, and a backslash is
+// doubled, so that nothing in it starts a line of its own or passes for one.
+QString oneLine(const QString &text);
+
 // Puts the handler in place; called once at start-up, and safe to call again.
 void install();
 

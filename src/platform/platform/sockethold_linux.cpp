@@ -1,4 +1,6 @@
-#include "platform/socketreset.h"
+#include "platform/sockethold.h"
+
+#include <QTcpSocket>
 
 #include <fcntl.h>
 #include <netinet/in.h>
@@ -8,11 +10,11 @@
 
 namespace platform {
 
-SocketResetWatch::SocketResetWatch(qintptr descriptor)
+SocketHold::SocketHold(qintptr descriptor)
     : m_descriptor(descriptor < 0 ? -1 : ::fcntl(int(descriptor), F_DUPFD_CLOEXEC, 0))
 { }
 
-bool SocketResetWatch::wasReset() const
+bool SocketHold::wasReset() const
 {
     // A closing peer leaves the socket waiting for our close; a reset leaves it closed.
     tcp_info info {};
@@ -21,7 +23,22 @@ bool SocketResetWatch::wasReset() const
         && info.tcpi_state == TCP_CLOSE;
 }
 
-void SocketResetWatch::release()
+QTcpSocket *SocketHold::takeForReply(QObject *parent)
+{
+    if (wasReset() || m_descriptor < 0)
+        return nullptr;
+    auto *socket = new QTcpSocket(parent);
+    if (!socket->setSocketDescriptor(m_descriptor, QAbstractSocket::ConnectedState,
+                                     QIODevice::WriteOnly)) {
+        delete socket;
+        release();
+        return nullptr;
+    }
+    m_descriptor = -1; // the socket's own now
+    return socket;
+}
+
+void SocketHold::release()
 {
     if (m_descriptor >= 0)
         ::close(m_descriptor);
