@@ -1,6 +1,7 @@
 #include "devices/authorizedkeysrewrite.h"
 #include "devices/deviceregistry.h"
 #include "devices/sshkey.h"
+#include "pairingfixture.h"
 #include "testsupport.h"
 
 #include <QDir>
@@ -115,7 +116,12 @@ private Q_SLOTS:
             pub[1] + "\r",
             " \t" + pub[0].first(pub[0].lastIndexOf(' ')) + "\r",
             "ssh-rsa " + pub[0].split(' ').at(1) + " type and blob disagree",
-            "# " + pub[1]
+            "# " + pub[1],
+            // RSA moduli sshd refuses, with and without options before them, and its largest.
+            testsupport::rsaKey(16400),
+            "no-pty " + testsupport::rsaKey(16400),
+            testsupport::rsaKey(1016),
+            testsupport::rsaKey(16384),
         };
         writeFile(dir.filePath("keys"), text(lines));
 
@@ -131,7 +137,7 @@ private Q_SLOTS:
                 ours.append(key->fingerprint());
         }
         QCOMPARE(ours, theirs);
-        QCOMPARE(ours.size(), 3);
+        QCOMPARE(ours.size(), 4);
         QCOMPARE(SshKey::fromLine(lines[4])->comment, "me@laptop more");
     }
 

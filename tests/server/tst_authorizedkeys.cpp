@@ -82,7 +82,9 @@ private Q_SLOTS:
     void appendsToExistingFileKeepingItsModeAndContent()
     {
         QVERIFY(QDir().mkpath(sshDir()));
-        const QByteArray existing = "ssh-rsa AAAAB3NzaC1yc2E old@laptop"; // no final newline
+        // A key that is only there commented out cannot log in, so it is added.
+        const QByteArray existing =
+            "# " + keyA.toUtf8() + "\nssh-rsa AAAAB3NzaC1yc2E old@laptop"; // no final newline
         write(keysFile(), existing, 0644);
         QCOMPARE(install(keyA).value_or("ok"), "ok");
         QCOMPARE(install(keyB).value_or("ok"), "ok");
