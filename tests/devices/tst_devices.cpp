@@ -2,6 +2,7 @@
 #include "devices/deviceregistry.h"
 #include "devices/sshkey.h"
 #include "pairingfixture.h"
+#include "server/authorizedkeys.h"
 #include "testsupport.h"
 
 #include <QDir>
@@ -147,13 +148,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("after");
         QTest::addColumn<int>("removed");
         const QByteArray k = key("k"), o = key("o"), c = appComment;
-        QTest::newRow("app entry")
-            << text({ o, "", c, k, "# mine" }) << text({ o, "", "# mine" }) << 1;
         QTest::newRow("options") << text({ "from=\"a, b\" " + key("k", "other"), o }) << text({ o })
                                  << 1;
         QTest::newRow("CRLF") << text({ o, c, k, o }, "\r\n") << text({ o, o }, "\r\n") << 1;
-        QTest::newRow("no final newline") << o + "\n" + c + "\n" + k << o + "\n" << 1;
-        QTest::newRow("twice") << text({ k, o, c, "\t" + k }) << text({ o }) << 2;
+        QTest::newRow("twice") << text({ k, o, "", c, "\t" + k }) << text({ o }) << 2;
         QTest::newRow("app comment above another key") << text({ c, o, k }) << text({ c, o }) << 1;
         QTest::newRow("app comment a line away") << text({ c, "", k }) << text({ c, "" }) << 1;
         QTest::newRow("commented out") << "# " + k + "\n" + o << "# " + k + "\n" + o << 0;
@@ -171,6 +169,40 @@ private Q_SLOTS:
         QCOMPARE(contents(keysFile()), after);
         QCOMPARE(modeOf(keysFile()), 0640);
         QVERIFY(temporaries().isEmpty());
+    }
+
+    // A pairing and the revoke of its key give back the file as it was, byte for byte, however
+    // it ended and whatever others appended after the entry; cycles do not make it grow.
+    void pairThenRevokeGivesTheFileBack_data()
+    {
+        QTest::addColumn<QByteArray>("original");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("final newline") << text({ key("o") });
+        QTest::newRow("no final newline") << key("o");
+        QTest::newRow("blank lines of the user's") << text({ key("o"), "", "" });
+        QTest::newRow("CRLF") << text({ key("o"), "# mine" }, "\r\n");
+        QTest::newRow("CRLF, no final newline") << key("o") + "\r\n# mine";
+    }
+
+    void pairThenRevokeGivesTheFileBack()
+    {
+        QFETCH(QByteArray, original);
+        writeFile(keysFile(), original);
+        const auto pairAndRevoke = [](const QByteArray &othersAppend) {
+            QVERIFY(!authorizedkeys::install(QDir::homePath(), key("k"), QDate(2024, 5, 6)));
+            append(keysFile(), othersAppend);
+            QCOMPARE(authorizedkeysrewrite::removeKey(keysFile(), fingerprint("k")).kind,
+                     Kind::Removed);
+        };
+        for (int cycle = 0; cycle < 3; ++cycle) {
+            pairAndRevoke({});
+            QCOMPARE(contents(keysFile()), original);
+        }
+        // A line another writer appended after the entry stays on a line of its own.
+        pairAndRevoke(key("x") + "\n");
+        const QByteArray separated =
+            original.isEmpty() || original.endsWith('\n') ? original : original + "\n";
+        QCOMPARE(contents(keysFile()), separated + key("x") + "\n");
     }
 
     void appendDuringRewriteIsKept()

@@ -27,7 +27,10 @@ struct Line
 QList<Line> lines(const QByteArray &content);
 
 // `content` without the lines that hold the key with `fingerprint`, nor the app's comment
-// directly above each of them; every other byte as it was. `removed` counts the key lines.
+// directly above each of them, nor the newline each of the app's entries began with: the blank
+// line above its comment, or, where the file had no final newline and nothing follows, the line
+// end of the line above. Every other byte as it was, so that a pairing and the revoke of its key
+// give back the file as it was before. `removed` counts the key lines.
 QByteArray withoutKey(const QByteArray &content, const QString &fingerprint, int *removed);
 
 // Whether `content` holds the key of `keyLine` (same type and key material), whatever the
