@@ -288,7 +288,7 @@ private Q_SLOTS:
                 QTimer::singleShot(killAfter(), Qt::PreciseTimer, &helper, &QProcess::kill);
             });
             QSignalSpy finished(&helper, &QProcess::finished);
-            helper.start(QUIVRA_REVOKE_HELPER, { keysFile(), fingerprint("k") });
+            helper.start(QUIVRA_KEYS_HELPER, { "revoke", keysFile(), fingerprint("k") });
             QVERIFY(finished.wait(10000));
             ran = clock.isValid() ? int(clock.elapsed()) : -1;
         };
@@ -356,6 +356,31 @@ private Q_SLOTS:
         writeFile(keysFile(), key("b") + "\n"); // by hand
         QVERIFY(changed.wait());
         QCOMPARE(names(registry.devices()), QStringList { "Ben's iPad" });
+    }
+
+    // A devices.json that is a link is neither read nor written through: the first save moves
+    // the link aside as devices.json.bad and puts a file of its own in its place.
+    void devicesListLinkIsNeverFollowed()
+    {
+        const QString support = QDir::homePath() + "/support-link";
+        const QString outside = QDir::homePath() + "/outside.json";
+        const QByteArray theirs = "{\"devices\": [{\"name\": \"Not mine\", \"fingerprint\": \""
+            + fingerprint("a").toUtf8() + "\"}]}";
+        writeFile(outside, theirs, 0644);
+        QDir().mkpath(support);
+        QVERIFY(QFile::link(outside, support + "/devices.json"));
+        writeFile(keysFile(), text({ appComment, key("a") }));
+
+        DeviceRegistry registry(support, QDir::homePath());
+        QCOMPARE(names(registry.devices()), QStringList { "Unknown device (added 2024-05-06)" });
+        QVERIFY(!registry.record("iPhone", key("a"), {}, QDateTime::currentDateTimeUtc()));
+        QCOMPARE(contents(outside), theirs);
+        QCOMPARE(modeOf(outside), 0644);
+        QVERIFY(!QFileInfo(support + "/devices.json").isSymLink());
+        QCOMPARE(modeOf(support + "/devices.json"), 0600);
+        QCOMPARE(QFileInfo(support + "/devices.json.bad").symLinkTarget(), outside);
+        QCOMPARE(names(DeviceRegistry(support, QDir::homePath()).devices()),
+                 QStringList { "iPhone" });
     }
 
     void revokeFindsExactlyOneDevice()

@@ -3,7 +3,6 @@
 #include <QRegularExpression>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace authorizedkeysfile {
 namespace {
@@ -94,27 +93,15 @@ bool containsKey(const QByteArray &content, const QByteArray &keyLine)
 
 std::optional<QString> refusal(const struct stat &info)
 {
-    if (!S_ISREG(info.st_mode))
-        return QStringLiteral("~/.ssh/authorized_keys is not a regular file; move it aside");
-    if (info.st_uid != ::getuid())
-        return QStringLiteral("~/.ssh/authorized_keys is owned by someone else (uid %1); fix with "
-                              "chown $USER ~/.ssh/authorized_keys")
-            .arg(info.st_uid);
     // The other names would keep what is removed, or share what is added.
     if (info.st_nlink != 1)
-        return QStringLiteral("~/.ssh/authorized_keys has other hard links; replace it with a "
-                              "copy of its own");
+        return displayName
+            + QStringLiteral(" has other hard links; replace it with a copy of its own");
     if (info.st_mode & (S_IWGRP | S_IWOTH))
-        return QStringLiteral("~/.ssh/authorized_keys is writable by others (mode %1); fix with "
-                              "chmod 600 ~/.ssh/authorized_keys")
-            .arg(QString::number(info.st_mode & 07777, 8));
+        return displayName
+            + QStringLiteral(" is writable by others (mode %1); fix with chmod 600 %2")
+                  .arg(QString::number(info.st_mode & 07777, 8), displayName);
     return std::nullopt;
-}
-
-QString linkRefusal()
-{
-    return QStringLiteral("~/.ssh/authorized_keys is a symbolic link; replace it with the file it "
-                          "points to");
 }
 
 } // namespace authorizedkeysfile

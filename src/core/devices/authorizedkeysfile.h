@@ -37,12 +37,12 @@ QByteArray withoutKey(const QByteArray &content, const QString &fingerprint, int
 // options and comment of either.
 bool containsKey(const QByteArray &content, const QByteArray &keyLine);
 
-// Why the app must not write to the authorized_keys that `info` describes (taken without
-// following a link): anything but a regular file of this user's, with no other hard links, that
-// no one else may change. In words that say how to fix it; none when it is fine.
+// How messages call the file.
+inline const QString displayName = QStringLiteral("~/.ssh/authorized_keys");
+
+// Why the app must not write to the authorized_keys that `info` describes, beyond SafeFile's
+// rules: a file with other hard links, or one that others may change. In words that say how to
+// fix it; none when it is fine.
 std::optional<QString> refusal(const struct stat &info);
-// The same for a symbolic link in its place, which would let its target's directory decide
-// what sshd reads.
-QString linkRefusal();
 
 } // namespace authorizedkeysfile
