@@ -1,6 +1,7 @@
 // Reading authorized_keys and the revoke's rewrite of it: any content, any key named. A revoke
-// takes out the lines that hold the named key and the app's comment directly above each, and
-// leaves every other byte as it was; the file on disk ends up with exactly that.
+// takes out the lines that hold the named key, the app's comment directly above each and the
+// newline the app's entry began with, and leaves every other byte as it was; the file on disk
+// ends up with exactly that.
 #include "devices/authorizedkeysfile.h"
 #include "devices/authorizedkeysrewrite.h"
 #include "fuzzsupport.h"
@@ -54,12 +55,19 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     int removed = 0;
     const QByteArray kept = authorizedkeysfile::withoutKey(content, fingerprint, &removed);
 
-    // What is kept is the content less exactly the lines that hold the key and the app's comment
-    // directly above each (as the reader marks it with its date), every other byte in order.
+    // What is kept is the content less exactly the lines that hold the key, the app's comment
+    // directly above each (as the reader marks it with its date) and the newline that entry began
+    // with: a lone "\n" line above the comment, or else the line end of the line above when
+    // nothing is kept after it. Every other byte stays, in order.
     const auto text = [&](qsizetype i) {
         return QByteArrayView(content).sliced(lines[i].begin, lines[i].end - lines[i].begin);
     };
+    const auto entryAt = [&](qsizetype comment) {
+        return comment >= 0 && comment + 1 < lines.size() && !lines[comment + 1].addedOn.isEmpty()
+            && holdsKey(text(comment + 1), fingerprint);
+    };
     QByteArray expected;
+    bool lastCompleted = false; // the last line kept had its line end from an entry
     int keyLines = 0;
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (!lines[i].addedOn.isEmpty()) {
@@ -67,15 +75,19 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             if (i == 0 || !QString::fromUtf8(text(i - 1)).startsWith(comment))
                 fail("a date read from a line that is not the app's comment above", content);
         }
-        const bool aboveKey = i + 1 < lines.size() && !lines[i + 1].addedOn.isEmpty()
-            && holdsKey(text(i + 1), fingerprint);
-        if (holdsKey(text(i), fingerprint))
+        if (holdsKey(text(i), fingerprint)) {
             ++keyLines;
-        else if (!aboveKey)
-            expected += text(i);
+            continue;
+        }
+        if (entryAt(i) || (text(i) == "\n" && entryAt(i + 1)))
+            continue;
+        expected += text(i);
+        lastCompleted = entryAt(i + 1);
     }
+    if (lastCompleted)
+        expected.chop(1);
     if (kept != expected || removed != keyLines)
-        fail("revoke changed more than the key's lines and their comments", kept);
+        fail("revoke changed more than the key's entries", kept);
     for (const authorizedkeysfile::Line &line : authorizedkeysfile::lines(kept)) {
         if (line.key && line.key->fingerprint() == fingerprint)
             fail("revoke left the key in place", kept);

@@ -43,7 +43,7 @@ constexpr qint64 startDeadlineMs = 5000;
 
 int failedCall(const ControlClient &client)
 {
-    err() << "QuivraMac did not answer: " << client.lastError() << Qt::endl;
+    err() << client.lastError() << Qt::endl;
     return Failed;
 }
 

@@ -57,7 +57,10 @@ std::optional<QVariantList> ControlClient::callWith(const QString &method,
 {
     const QDBusMessage reply = m_interface.callWithArgumentList(QDBus::Block, method, arguments);
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        m_lastError = reply.errorMessage();
+        // The app's own failure says what went wrong; any other error means it did not answer.
+        m_lastError = reply.errorName() == QLatin1String(ControlService::failedError)
+            ? reply.errorMessage()
+            : QStringLiteral("QuivraMac did not answer: ") + reply.errorMessage();
         return std::nullopt;
     }
     return reply.arguments();

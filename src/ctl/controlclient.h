@@ -22,6 +22,7 @@ public:
     std::optional<QVariant> call(const QString &method);
     // With arguments; every value of the reply, or nothing on an error.
     std::optional<QVariantList> callWith(const QString &method, const QVariantList &arguments);
+    // Why the last call failed, in one line for the user.
     QString lastError() const { return m_lastError; }
 
 Q_SIGNALS:

@@ -7,9 +7,11 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusInterface>
+#include <QDir>
 #include <QJsonDocument>
 
 #include <csignal>
+#include <sys/stat.h>
 
 using testsupport::quivractl;
 
@@ -171,6 +173,36 @@ private Q_SLOTS:
         QVERIFY(pair.waitForFinished(5000));
         QCOMPARE(pair.exitCode(), 130);
         QVERIFY(!manager().property("isPairing").toBool());
+    }
+
+    // A FIFO in place of authorized_keys is refused at once, with the reason, by the pairing,
+    // the devices list and the revoke. Last, so that an app hung on it holds up no other test.
+    void fifoInPlaceOfAuthorizedKeysIsRefusedAtOnce()
+    {
+        const QString keys = QDir::homePath() + "/.ssh/authorized_keys";
+        QVERIFY(QDir().mkpath(QDir::homePath() + "/.ssh"));
+        QFile::remove(keys);
+        QCOMPARE(::mkfifo(QFile::encodeName(keys).constData(), 0600), 0);
+        const QString reason = "~/.ssh/authorized_keys is a FIFO, not a regular file";
+
+        QDBusInterface app = manager();
+        if (!app.property("isPairing").toBool())
+            app.call("TogglePairingMode");
+        const QByteArray reply = testsupport::exchange(
+            8080,
+            "POST /pair?token=" + app.property("pairingToken").toString().toLatin1()
+                + " HTTP/1.1\r\nX-Device-Name: Fifo\r\n\r\n" + testsupport::ed25519Key());
+        QVERIFY2(reply.startsWith("HTTP/1.1 503"), reply.constData());
+        QTRY_VERIFY(m_bundle.output().contains("Failed to save key: " + reason));
+        const auto [listed, list] = quivractl({ "devices" });
+        QCOMPARE(listed, 1);
+        QVERIFY2(list.contains(reason), qPrintable(list));
+        const auto [revoked, message] = quivractl({ "revoke", "--yes", "Ana's iPhone" });
+        QCOMPARE(revoked, 1);
+        QVERIFY2(message.contains(reason), qPrintable(message));
+        QVERIFY(QFile::remove(keys));
+        app.call("TogglePairingMode");
+        QVERIFY(!app.property("isPairing").toBool());
     }
 
 public Q_SLOTS:

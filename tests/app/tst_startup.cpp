@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <sys/stat.h>
 
 // The real quivramac executable, with the fake etserver beside it where the app looks first.
 class TestStartup : public QObject
@@ -81,6 +82,28 @@ private Q_SLOTS:
         QCOMPARE(m_bundle.process().exitStatus(), QProcess::NormalExit);
         QVERIFY(!platform::ProcessTable::system()->exists(child));
         QVERIFY(!QFile::exists(m_support + "/etserver.pid"));
+    }
+
+    // FIFOs where the app keeps its files, made by mistake or by anything running as the user,
+    // hold up neither its start nor its quit: each is refused without being waited on.
+    void fifosInItsFoldersBlockNeitherStartNorQuit()
+    {
+        const QString pidFile = m_support + "/etserver.pid";
+        const QString devices = m_support + "/devices.json";
+        QDir().mkpath(QFileInfo(appSettingsPath()).absolutePath());
+        for (const QString &path : { pidFile, devices, appSettingsPath() })
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        m_bundle.launch();
+        QTRY_VERIFY(m_bundle.printed("PairingListener started on port 8080"));
+        // The server started with the settings' default, and wrote a pid file of its own.
+        QTRY_VERIFY(QFileInfo(pidFile).isFile());
+
+        QVERIFY(QFile::remove(pidFile));
+        QCOMPARE(::mkfifo(QFile::encodeName(pidFile).constData(), 0600), 0);
+        ::kill(pid_t(m_bundle.process().processId()), SIGTERM);
+        QVERIFY(m_bundle.process().waitForFinished(5000));
+        QCOMPARE(m_bundle.process().exitStatus(), QProcess::NormalExit);
+        QVERIFY(QFile::remove(devices));
     }
 
     void disabledAutoStartStillCleansOrphans()

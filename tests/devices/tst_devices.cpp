@@ -1,6 +1,8 @@
 #include "devices/authorizedkeysrewrite.h"
 #include "devices/deviceregistry.h"
 #include "devices/sshkey.h"
+#include "pairingfixture.h"
+#include "server/authorizedkeys.h"
 #include "testsupport.h"
 
 #include <QDir>
@@ -115,7 +117,12 @@ private Q_SLOTS:
             pub[1] + "\r",
             " \t" + pub[0].first(pub[0].lastIndexOf(' ')) + "\r",
             "ssh-rsa " + pub[0].split(' ').at(1) + " type and blob disagree",
-            "# " + pub[1]
+            "# " + pub[1],
+            // RSA moduli sshd refuses, with and without options before them, and its largest.
+            testsupport::rsaKey(16400),
+            "no-pty " + testsupport::rsaKey(16400),
+            testsupport::rsaKey(1016),
+            testsupport::rsaKey(16384),
         };
         writeFile(dir.filePath("keys"), text(lines));
 
@@ -131,7 +138,7 @@ private Q_SLOTS:
                 ours.append(key->fingerprint());
         }
         QCOMPARE(ours, theirs);
-        QCOMPARE(ours.size(), 3);
+        QCOMPARE(ours.size(), 4);
         QCOMPARE(SshKey::fromLine(lines[4])->comment, "me@laptop more");
     }
 
@@ -141,13 +148,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("after");
         QTest::addColumn<int>("removed");
         const QByteArray k = key("k"), o = key("o"), c = appComment;
-        QTest::newRow("app entry")
-            << text({ o, "", c, k, "# mine" }) << text({ o, "", "# mine" }) << 1;
         QTest::newRow("options") << text({ "from=\"a, b\" " + key("k", "other"), o }) << text({ o })
                                  << 1;
         QTest::newRow("CRLF") << text({ o, c, k, o }, "\r\n") << text({ o, o }, "\r\n") << 1;
-        QTest::newRow("no final newline") << o + "\n" + c + "\n" + k << o + "\n" << 1;
-        QTest::newRow("twice") << text({ k, o, c, "\t" + k }) << text({ o }) << 2;
+        QTest::newRow("twice") << text({ k, o, "", c, "\t" + k }) << text({ o }) << 2;
         QTest::newRow("app comment above another key") << text({ c, o, k }) << text({ c, o }) << 1;
         QTest::newRow("app comment a line away") << text({ c, "", k }) << text({ c, "" }) << 1;
         QTest::newRow("commented out") << "# " + k + "\n" + o << "# " + k + "\n" + o << 0;
@@ -165,6 +169,40 @@ private Q_SLOTS:
         QCOMPARE(contents(keysFile()), after);
         QCOMPARE(modeOf(keysFile()), 0640);
         QVERIFY(temporaries().isEmpty());
+    }
+
+    // A pairing and the revoke of its key give back the file as it was, byte for byte, however
+    // it ended and whatever others appended after the entry; cycles do not make it grow.
+    void pairThenRevokeGivesTheFileBack_data()
+    {
+        QTest::addColumn<QByteArray>("original");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("final newline") << text({ key("o") });
+        QTest::newRow("no final newline") << key("o");
+        QTest::newRow("blank lines of the user's") << text({ key("o"), "", "" });
+        QTest::newRow("CRLF") << text({ key("o"), "# mine" }, "\r\n");
+        QTest::newRow("CRLF, no final newline") << key("o") + "\r\n# mine";
+    }
+
+    void pairThenRevokeGivesTheFileBack()
+    {
+        QFETCH(QByteArray, original);
+        writeFile(keysFile(), original);
+        const auto pairAndRevoke = [](const QByteArray &othersAppend) {
+            QVERIFY(!authorizedkeys::install(QDir::homePath(), key("k"), QDate(2024, 5, 6)));
+            append(keysFile(), othersAppend);
+            QCOMPARE(authorizedkeysrewrite::removeKey(keysFile(), fingerprint("k")).kind,
+                     Kind::Removed);
+        };
+        for (int cycle = 0; cycle < 3; ++cycle) {
+            pairAndRevoke({});
+            QCOMPARE(contents(keysFile()), original);
+        }
+        // A line another writer appended after the entry stays on a line of its own.
+        pairAndRevoke(key("x") + "\n");
+        const QByteArray separated =
+            original.isEmpty() || original.endsWith('\n') ? original : original + "\n";
+        QCOMPARE(contents(keysFile()), separated + key("x") + "\n");
     }
 
     void appendDuringRewriteIsKept()
@@ -250,7 +288,7 @@ private Q_SLOTS:
                 QTimer::singleShot(killAfter(), Qt::PreciseTimer, &helper, &QProcess::kill);
             });
             QSignalSpy finished(&helper, &QProcess::finished);
-            helper.start(QUIVRA_REVOKE_HELPER, { keysFile(), fingerprint("k") });
+            helper.start(QUIVRA_KEYS_HELPER, { "revoke", keysFile(), fingerprint("k") });
             QVERIFY(finished.wait(10000));
             ran = clock.isValid() ? int(clock.elapsed()) : -1;
         };
@@ -318,6 +356,31 @@ private Q_SLOTS:
         writeFile(keysFile(), key("b") + "\n"); // by hand
         QVERIFY(changed.wait());
         QCOMPARE(names(registry.devices()), QStringList { "Ben's iPad" });
+    }
+
+    // A devices.json that is a link is neither read nor written through: the first save moves
+    // the link aside as devices.json.bad and puts a file of its own in its place.
+    void devicesListLinkIsNeverFollowed()
+    {
+        const QString support = QDir::homePath() + "/support-link";
+        const QString outside = QDir::homePath() + "/outside.json";
+        const QByteArray theirs = "{\"devices\": [{\"name\": \"Not mine\", \"fingerprint\": \""
+            + fingerprint("a").toUtf8() + "\"}]}";
+        writeFile(outside, theirs, 0644);
+        QDir().mkpath(support);
+        QVERIFY(QFile::link(outside, support + "/devices.json"));
+        writeFile(keysFile(), text({ appComment, key("a") }));
+
+        DeviceRegistry registry(support, QDir::homePath());
+        QCOMPARE(names(registry.devices()), QStringList { "Unknown device (added 2024-05-06)" });
+        QVERIFY(!registry.record("iPhone", key("a"), {}, QDateTime::currentDateTimeUtc()));
+        QCOMPARE(contents(outside), theirs);
+        QCOMPARE(modeOf(outside), 0644);
+        QVERIFY(!QFileInfo(support + "/devices.json").isSymLink());
+        QCOMPARE(modeOf(support + "/devices.json"), 0600);
+        QCOMPARE(QFileInfo(support + "/devices.json.bad").symLinkTarget(), outside);
+        QCOMPARE(names(DeviceRegistry(support, QDir::homePath()).devices()),
+                 QStringList { "iPhone" });
     }
 
     void revokeFindsExactlyOneDevice()

@@ -194,6 +194,7 @@ private Q_SLOTS:
             "ssh-rsa " + goodBlob,
             "ssh-ed25519 " + rsaBlob,
             rsaKey(1024),
+            rsaKey(16400), // more than sshd reads
             "ssh-ed25519 " + goodBlob + " phone\rcommand=x",
             "ssh-ed25519 " + goodBlob + " " + QByteArray(257, 'c'),
             "ssh-ed25519 " + QByteArray(QByteArray::fromBase64(goodBlob) + "trailing").toBase64(),

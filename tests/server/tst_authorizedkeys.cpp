@@ -4,6 +4,7 @@
 #include "testsupport.h"
 
 #include <QDir>
+#include <QProcess>
 
 #include <sys/stat.h>
 
@@ -59,8 +60,7 @@ class TestAuthorizedKeys : public QObject
     // The refusal's or failure's text, or none.
     std::optional<QString> install(const QString &key)
     {
-        const auto problem = authorizedkeys::install(QDir::homePath(), key, today);
-        return problem ? std::optional(problem->text) : std::nullopt;
+        return authorizedkeys::install(QDir::homePath(), key, today);
     }
 
 private Q_SLOTS:
@@ -72,7 +72,10 @@ private Q_SLOTS:
 
     void createsDirectoryAndFileWithPrivateModes()
     {
+        // The date is read back by the devices list: ASCII digits and Gregorian in any locale.
+        QLocale::setDefault(QLocale(QLocale::Persian, QLocale::Iran));
         QCOMPARE(entryA(), "\n# Quivra Terminal - Added on 2026-11-23\n" + keyA.toUtf8() + "\n");
+        QLocale::setDefault(QLocale::c());
         QCOMPARE(install(keyA).value_or("ok"), "ok");
         QCOMPARE(modeOf(sshDir()), 0700);
         QCOMPARE(modeOf(keysFile()), 0600);
@@ -82,7 +85,9 @@ private Q_SLOTS:
     void appendsToExistingFileKeepingItsModeAndContent()
     {
         QVERIFY(QDir().mkpath(sshDir()));
-        const QByteArray existing = "ssh-rsa AAAAB3NzaC1yc2E old@laptop"; // no final newline
+        // A key that is only there commented out cannot log in, so it is added.
+        const QByteArray existing =
+            "# " + keyA.toUtf8() + "\nssh-rsa AAAAB3NzaC1yc2E old@laptop"; // no final newline
         write(keysFile(), existing, 0644);
         QCOMPARE(install(keyA).value_or("ok"), "ok");
         QCOMPARE(install(keyB).value_or("ok"), "ok");
@@ -120,6 +125,39 @@ private Q_SLOTS:
         ::chmod(QFile::encodeName(elsewhere.path()).constData(), 0700);
         QCOMPARE(install(keyA).value_or("ok"), "ok");
         QCOMPARE(contents(elsewhere.filePath("authorized_keys")), entryA());
+    }
+
+    // On a full disk the install fails and the file holds none of the entry, even where the
+    // entry would have begun in the file's last, partly used page.
+    void fullDiskLeavesTheFileAsItWas()
+    {
+        if (QProcess::execute("unshare", { "-m", "true" }) != 0)
+            QSKIP("no private mount namespace here (it takes root)");
+        QTemporaryDir home, outside;
+        // 40 bytes short of a page boundary: the entry is longer.
+        const QByteArray original = "# " + QByteArray(2 * 4096 - 40 - 3, 'x') + "\n";
+        write(outside.filePath("original"), original, 0600);
+        // A tmpfs of its own in a private mount namespace, filled to the last page.
+        const QString script = R"(
+            mount -t tmpfs -o size=64k,mode=0700 tmpfs "$1" 2>&1 || exit 77
+            mkdir -m 700 "$1/.ssh" && cp "$2" "$1/.ssh/authorized_keys" || exit 1
+            dd if=/dev/zero of="$1/filler" bs=4096 2>/dev/null
+            "$3" install "$1" "$4"; status=$?
+            cat "$1/.ssh/authorized_keys" > "$2.after"
+            exit $status)";
+        QProcess helper;
+        helper.setProcessChannelMode(QProcess::MergedChannels);
+        helper.start("unshare",
+                     { "-m", "--propagation", "private", "sh", "-c", script, "sh", home.path(),
+                       outside.filePath("original"), QUIVRA_KEYS_HELPER, keyA });
+        QVERIFY(helper.waitForFinished(20000));
+        const QString output = QString::fromUtf8(helper.readAll()).trimmed();
+        if (helper.exitCode() == 77 || helper.error() == QProcess::FailedToStart)
+            QSKIP(qPrintable("cannot mount a small tmpfs here: " + output));
+        QCOMPARE(helper.exitCode(), 1);
+        QVERIFY2(output.contains("No space left on device") || output.contains("disk is full"),
+                 qPrintable(output));
+        QCOMPARE(contents(outside.filePath("original.after")), original);
     }
 
     // Two phones pair one after the other, the second under the name of the first: each is its
@@ -165,7 +203,7 @@ private Q_SLOTS:
         QVERIFY(phones.session().isPairing());
         QVERIFY(paired.isEmpty());
         QCOMPARE(console.lines(),
-                 QStringList { "Not installing key: ~/.ssh is not a directory; move it aside" });
+                 QStringList { "Failed to save key: ~/.ssh is not a directory; move it aside" });
     }
 };
 

@@ -6,6 +6,13 @@
 #include <QSettings>
 #include <QTcpServer>
 
+#include <csignal>
+#include <cstring>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace std::chrono_literals;
 using testsupport::GuardedProcessTable;
 
@@ -178,9 +185,44 @@ private Q_SLOTS:
         QFile(path).open(QIODevice::WriteOnly);
         QVERIFY(!serverchecks::ownedByAnotherUser(path, me));
         QVERIFY(serverchecks::ownedByAnotherUser(path, me + 1));
-        // Only sockets are tidied away, never a plain file someone put there.
-        serverchecks::removeOwnSocket(path);
-        QVERIFY(QFile::exists(path));
+    }
+
+    // Quit tidies the server's socket away only when no one serves it any more: another
+    // process's live socket of this user stays, the stale one a dead server left goes.
+    void quitRemovesOnlyAStaleServerSocket()
+    {
+        QTemporaryDir dir;
+        const QByteArray path = QFile::encodeName(dir.filePath("et.fifo"));
+        int ready[2];
+        QCOMPARE(::pipe(ready), 0);
+        const pid_t other = ::fork();
+        if (other == 0) { // only system calls from here on
+            sockaddr_un address {};
+            address.sun_family = AF_UNIX;
+            std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
+            const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+            if (::bind(fd, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0
+                && ::listen(fd, 1) == 0)
+                ::write(ready[1], "+", 1);
+            ::_exit(::pause());
+        }
+        ::close(ready[1]);
+        char listening = 0;
+        QCOMPARE(::read(ready[0], &listening, 1), 1);
+        ::close(ready[0]);
+
+        ServerEnvironment env = testsupport::environment(m_processes);
+        env.serverFifo = QFile::decodeName(path);
+        m_manager = std::make_unique<ServerManager>(std::move(env));
+        testsupport::awaitCleanup(*m_manager);
+        m_manager->supervisor().stopForQuit();
+        const bool keptLive = QFileInfo::exists(QFile::decodeName(path));
+        ::kill(other, SIGKILL);
+        ::waitpid(other, nullptr, 0);
+        QVERIFY(keptLive);
+        QVERIFY(QFileInfo::exists(QFile::decodeName(path))); // the stale socket stays behind
+        m_manager->supervisor().stopForQuit();
+        QVERIFY(!QFileInfo::exists(QFile::decodeName(path)));
     }
 };
 

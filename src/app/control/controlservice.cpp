@@ -145,10 +145,18 @@ QString ServerManagerAdaptor::failureReason() const
     return m_manager->failureReason();
 }
 
-QString ServerManagerAdaptor::Devices() const
+QString ServerManagerAdaptor::Devices(const QDBusMessage &call) const
 {
     QJsonArray list;
-    const QList<PairedDevice> devices = m_manager->phones().devices().devices();
+    QString problem;
+    const QList<PairedDevice> devices = m_manager->phones().devices().devices(&problem);
+    if (!problem.isEmpty()) {
+        call.setDelayedReply(true);
+        QDBusConnection::sessionBus().send(
+            call.createErrorReply(QString::fromLatin1(ControlService::failedError),
+                                  QStringLiteral("Cannot list the paired phones: ") + problem));
+        return {};
+    }
     for (const PairedDevice &device : devices) {
         list.append(
             QJsonObject { { QStringLiteral("name"), device.name },

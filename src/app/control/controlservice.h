@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusAbstractAdaptor>
+#include <QDBusMessage>
 #include <QMetaProperty>
 #include <QObject>
 #include <QStringList>
@@ -20,6 +21,8 @@ public:
     static constexpr auto serviceName = "org.quivra.QuivraMac";
     static constexpr auto objectPath = "/ServerManager";
     static constexpr auto interfaceName = "org.quivra.QuivraMac.ServerManager";
+    // The error a method answers with when it could not do its work; its message is for the user.
+    static constexpr auto failedError = "org.quivra.QuivraMac.Error.Failed";
 
     // Takes the bus name; call before anything touches the machine.
     static Claim claimName();
@@ -65,8 +68,8 @@ public Q_SLOTS:
     void TogglePairingMode();
     QString Logs() const;
     // The paired phones as a JSON array of {name, keyType, fingerprint, keyComment, pairedAt,
-    // address}, newest first.
-    QString Devices() const;
+    // address}, newest first; the Failed error when authorized_keys cannot be read.
+    QString Devices(const QDBusMessage &call) const;
     // Revokes one phone by name or fingerprint; false with the reason when it could not.
     bool Revoke(const QString &nameOrFingerprint, QString &message);
 

@@ -3,7 +3,6 @@
 #include <QRegularExpression>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace authorizedkeysfile {
 namespace {
@@ -43,21 +42,41 @@ QByteArray withoutKey(const QByteArray &content, const QString &fingerprint, int
 {
     *removed = 0;
     const QList<Line> all = lines(content);
+    const auto text = [&](qsizetype i) {
+        return QByteArrayView(content).sliced(all[i].begin, all[i].end - all[i].begin);
+    };
     QList<bool> drop(all.size(), false);
+    // Lines whose line end the newline an entry begins with supplied: the file lacked its own.
+    QList<qsizetype> completed;
     for (qsizetype i = 0; i < all.size(); ++i) {
         if (!all[i].key || all[i].key->fingerprint() != fingerprint)
             continue;
         drop[i] = true;
         ++*removed;
-        if (!all[i].addedOn.isEmpty())
-            drop[i - 1] = true;
+        if (all[i].addedOn.isEmpty())
+            continue;
+        const qsizetype comment = i - 1;
+        drop[comment] = true;
+        // A pairing appends "\n# comment\nkey\n": the newline either stands alone above the
+        // comment or ended the line there.
+        if (comment == 0)
+            continue;
+        if (text(comment - 1) == "\n")
+            drop[comment - 1] = true;
+        else
+            completed.append(comment - 1);
     }
+    const qsizetype lastKept = drop.lastIndexOf(false);
     QByteArray kept;
     kept.reserve(content.size());
-    for (qsizetype i = 0; i < all.size(); ++i) {
+    for (qsizetype i = 0; i <= lastKept; ++i) {
         if (!drop[i])
-            kept.append(QByteArrayView(content).sliced(all[i].begin, all[i].end - all[i].begin));
+            kept.append(text(i));
     }
+    // In the middle of the file that line end keeps the next line apart; at its end it goes
+    // again, as it came.
+    if (lastKept >= 0 && completed.contains(lastKept) && kept.endsWith('\n'))
+        kept.chop(1);
     return kept;
 }
 
@@ -74,27 +93,15 @@ bool containsKey(const QByteArray &content, const QByteArray &keyLine)
 
 std::optional<QString> refusal(const struct stat &info)
 {
-    if (!S_ISREG(info.st_mode))
-        return QStringLiteral("~/.ssh/authorized_keys is not a regular file; move it aside");
-    if (info.st_uid != ::getuid())
-        return QStringLiteral("~/.ssh/authorized_keys is owned by someone else (uid %1); fix with "
-                              "chown $USER ~/.ssh/authorized_keys")
-            .arg(info.st_uid);
     // The other names would keep what is removed, or share what is added.
     if (info.st_nlink != 1)
-        return QStringLiteral("~/.ssh/authorized_keys has other hard links; replace it with a "
-                              "copy of its own");
+        return displayName
+            + QStringLiteral(" has other hard links; replace it with a copy of its own");
     if (info.st_mode & (S_IWGRP | S_IWOTH))
-        return QStringLiteral("~/.ssh/authorized_keys is writable by others (mode %1); fix with "
-                              "chmod 600 ~/.ssh/authorized_keys")
-            .arg(QString::number(info.st_mode & 07777, 8));
+        return displayName
+            + QStringLiteral(" is writable by others (mode %1); fix with chmod 600 %2")
+                  .arg(QString::number(info.st_mode & 07777, 8), displayName);
     return std::nullopt;
-}
-
-QString linkRefusal()
-{
-    return QStringLiteral("~/.ssh/authorized_keys is a symbolic link; replace it with the file it "
-                          "points to");
 }
 
 } // namespace authorizedkeysfile

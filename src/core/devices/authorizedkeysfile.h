@@ -27,19 +27,22 @@ struct Line
 QList<Line> lines(const QByteArray &content);
 
 // `content` without the lines that hold the key with `fingerprint`, nor the app's comment
-// directly above each of them; every other byte as it was. `removed` counts the key lines.
+// directly above each of them, nor the newline each of the app's entries began with: the blank
+// line above its comment, or, where the file had no final newline and nothing follows, the line
+// end of the line above. Every other byte as it was, so that a pairing and the revoke of its key
+// give back the file as it was before. `removed` counts the key lines.
 QByteArray withoutKey(const QByteArray &content, const QString &fingerprint, int *removed);
 
 // Whether `content` holds the key of `keyLine` (same type and key material), whatever the
 // options and comment of either.
 bool containsKey(const QByteArray &content, const QByteArray &keyLine);
 
-// Why the app must not write to the authorized_keys that `info` describes (taken without
-// following a link): anything but a regular file of this user's, with no other hard links, that
-// no one else may change. In words that say how to fix it; none when it is fine.
+// How messages call the file.
+inline const QString displayName = QStringLiteral("~/.ssh/authorized_keys");
+
+// Why the app must not write to the authorized_keys that `info` describes, beyond SafeFile's
+// rules: a file with other hard links, or one that others may change. In words that say how to
+// fix it; none when it is fine.
 std::optional<QString> refusal(const struct stat &info);
-// The same for a symbolic link in its place, which would let its target's directory decide
-// what sshd reads.
-QString linkRefusal();
 
 } // namespace authorizedkeysfile

@@ -3,6 +3,8 @@
 #include "devices/authorizedkeysfile.h"
 #include "devices/authorizedkeysrewrite.h"
 #include "devices/devicesfile.h"
+#include "platform/logging.h"
+#include "platform/safefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +13,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
 
 namespace {
@@ -22,11 +25,16 @@ struct InstalledKey
     QString addedOn;
 };
 
-// In file order; a key there twice counts once, with the app's date if either copy has one.
-QList<InstalledKey> installedKeys(const QString &path)
+// In file order; a key there twice counts once, with the app's date if either copy has one. A
+// missing file holds none; one that cannot be read sets `problem`.
+QList<InstalledKey> installedKeys(const QString &path, QString *problem)
 {
-    QFile file(path);
-    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const safefile::Contents read = safefile::read(path, authorizedkeysfile::displayName);
+    if (read.status == SafeFile::Status::Refused || read.status == SafeFile::Status::Failed) {
+        *problem = read.error;
+        return {};
+    }
+    const QByteArray &content = read.bytes;
     QList<InstalledKey> keys;
     QHash<QString, qsizetype> index;
     for (const authorizedkeysfile::Line &line : authorizedkeysfile::lines(content)) {
@@ -56,11 +64,15 @@ DeviceRegistry::DeviceRegistry(const QString &directory, const QString &home, QO
     , m_file(directory + QStringLiteral("/devices.json"))
     , m_authorizedKeys(home + QStringLiteral("/.ssh/authorized_keys"))
 {
-    // An unusable devices.json stays as it is until the next pairing, which first copies it to
-    // devices.json.bad: the names in it are the user's, and a later version may read it.
+    // An unusable devices.json stays as it is until the next pairing, which first moves it to
+    // devices.json.bad: the names in it are the user's, and a later version may read it. Moved,
+    // not copied, it is never opened: a link goes as the link, a FIFO as the FIFO.
     const devicesfile::Loaded loaded = devicesfile::load(m_file);
     m_recorded = loaded.devices;
-    m_fileUnusable = loaded.unusable;
+    m_unusable = !loaded.unusable.isEmpty();
+    if (m_unusable)
+        qCInfo(lcLog).nospace().noquote()
+            << "[QuivraMac] Starting a new list of paired devices: " << loaded.unusable;
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, [this] {
         watch();
         Q_EMIT devicesChanged();
@@ -99,20 +111,22 @@ std::optional<QString> DeviceRegistry::record(const PairedDevice &device)
         return QStringLiteral("Not a public key line");
     forget(device.fingerprint);
     m_recorded.append(device);
-    if (m_fileUnusable) {
-        QFile::remove(m_file + QStringLiteral(".bad"));
-        QFile::copy(m_file, m_file + QStringLiteral(".bad"));
-    }
+    if (m_unusable)
+        std::rename(QFile::encodeName(m_file).constData(),
+                    QFile::encodeName(m_file + QStringLiteral(".bad")).constData());
     const auto error = devicesfile::save(m_file, m_recorded);
-    m_fileUnusable = m_fileUnusable && error;
+    m_unusable = m_unusable && error;
     watch(); // pairing may just have created ~/.ssh
     Q_EMIT devicesChanged();
     return error;
 }
 
-QList<PairedDevice> DeviceRegistry::devices() const
+QList<PairedDevice> DeviceRegistry::devices(QString *problem) const
 {
-    const QList<InstalledKey> installed = installedKeys(m_authorizedKeys);
+    QString unreadable;
+    const QList<InstalledKey> installed = installedKeys(m_authorizedKeys, &unreadable);
+    if (problem)
+        *problem = unreadable;
     QSet<QString> fingerprints;
     for (const InstalledKey &key : installed)
         fingerprints.insert(key.fingerprint);
@@ -137,7 +151,11 @@ QList<PairedDevice> DeviceRegistry::devices() const
 
 DeviceRegistry::Revocation DeviceRegistry::revoke(const QString &nameOrFingerprint)
 {
-    const QList<PairedDevice> all = devices();
+    QString problem;
+    const QList<PairedDevice> all = devices(&problem);
+    if (!problem.isEmpty())
+        return { false,
+                 QStringLiteral("Cannot revoke %1: %2").arg(quoted(nameOrFingerprint), problem) };
     QList<PairedDevice> matches;
     std::copy_if(all.cbegin(), all.cend(), std::back_inserter(matches),
                  [&](const PairedDevice &d) { return d.fingerprint == nameOrFingerprint; });

@@ -37,7 +37,8 @@ public:
 
     // The recorded devices whose key is still in authorized_keys, and the keys there under the
     // app's comment that were never recorded, as "Unknown device (added {date})"; newest first.
-    QList<PairedDevice> devices() const;
+    // None, with `problem` set, when authorized_keys is there but cannot be read.
+    QList<PairedDevice> devices(QString *problem = nullptr) const;
 
     // One device, by its exact fingerprint or its name in any case: its key leaves
     // authorized_keys, then the device leaves the list.
@@ -54,6 +55,6 @@ private:
     QString m_file;
     QString m_authorizedKeys;
     QList<PairedDevice> m_recorded;
-    bool m_fileUnusable = false;
+    bool m_unusable = false; // devices.json is there but was not read
     QFileSystemWatcher m_watcher;
 };

@@ -1,12 +1,13 @@
 #include "devices/devicesfile.h"
 
+#include "platform/replacefile.h"
+#include "platform/safefile.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace devicesfile {
 namespace {
@@ -35,15 +36,15 @@ PairedDevice fromJson(const QJsonObject &json)
 
 Loaded load(const QString &path)
 {
-    QFile file(path);
-    if (!file.exists())
+    const safefile::Contents read = safefile::read(path, path);
+    if (read.status == SafeFile::Status::Missing)
         return {};
-    if (!file.open(QIODevice::ReadOnly))
-        return { {}, true };
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
-    const QJsonValue list = document.object().value(QStringLiteral("devices"));
+    if (read.status != SafeFile::Status::Open)
+        return { {}, read.error };
+    const QJsonValue list =
+        QJsonDocument::fromJson(read.bytes).object().value(QStringLiteral("devices"));
     if (!list.isArray())
-        return { {}, true };
+        return { {}, path + QStringLiteral(" is not a list of devices") };
     Loaded loaded;
     for (const QJsonValue &entry : list.toArray()) {
         const PairedDevice device = fromJson(entry.toObject());
@@ -61,12 +62,7 @@ std::optional<QString> save(const QString &path, const QList<PairedDevice> &devi
     const QJsonObject root { { "version", 1 }, { "devices", list } };
 
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)
-        || !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)
-        || file.write(QJsonDocument(root).toJson()) < 0 || !file.commit())
-        return QStringLiteral("Cannot save %1: %2").arg(path, file.errorString());
-    return std::nullopt;
+    return replacefile::replace(path, path, QJsonDocument(root).toJson(), 0600);
 }
 
 } // namespace devicesfile

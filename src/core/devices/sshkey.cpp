@@ -1,5 +1,7 @@
 #include "devices/sshkey.h"
 
+#include "devices/sshwire.h"
+
 #include <QCryptographicHash>
 
 namespace {
@@ -33,16 +35,21 @@ qsizetype optionsLength(QByteArrayView text)
     return text.size();
 }
 
-// The wire format names its own type first; a line whose type word disagrees is no key.
-bool blobNamesType(const QByteArray &blob, QByteArrayView type)
+// As sshd reads a blob: it names its own type first, and a line whose type word disagrees is no
+// key; nor is an RSA key whose modulus is shorter or longer than sshd takes.
+bool isKeyOf(const QByteArray &blob, QByteArrayView type)
 {
-    if (blob.size() < 4)
+    sshwire::Reader reader(blob);
+    const auto named = reader.string();
+    if (!named || *named != type)
         return false;
-    const auto *bytes = reinterpret_cast<const uchar *>(blob.constData());
-    const quint32 length = quint32(bytes[0]) << 24 | quint32(bytes[1]) << 16
-        | quint32(bytes[2]) << 8 | quint32(bytes[3]);
-    return length == quint32(type.size()) && blob.size() - 4 >= type.size()
-        && QByteArrayView(blob).sliced(4, length) == type;
+    if (type != "ssh-rsa")
+        return true;
+    const auto exponent = reader.string();
+    const auto modulus = reader.string();
+    const qsizetype bits = modulus ? sshwire::bitLength(*modulus) : -1;
+    return exponent && sshwire::bitLength(*exponent) >= 0 && bits >= SshKey::rsaMinimumBits
+        && bits <= SshKey::rsaMaximumBits;
 }
 
 std::optional<SshKey> keyAt(QByteArrayView text)
@@ -55,7 +62,7 @@ std::optional<SshKey> keyAt(QByteArrayView text)
         ++dataEnd;
     const auto decoded = QByteArray::fromBase64Encoding(rest.first(dataEnd).toByteArray(),
                                                         QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded || !blobNamesType(decoded.decoded, type))
+    if (!decoded || !isKeyOf(decoded.decoded, type))
         return std::nullopt;
     const QByteArrayView comment = skipBlanks(rest.sliced(dataEnd));
     return SshKey { QString::fromLatin1(type), decoded.decoded,

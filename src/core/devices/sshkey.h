@@ -10,6 +10,10 @@
 // app's one reader of key lines: what it installs, lists, revokes and finds already installed.
 struct SshKey
 {
+    // The RSA moduli sshd accepts.
+    static constexpr int rsaMinimumBits = 1024;
+    static constexpr int rsaMaximumBits = 16384;
+
     QString type; // "ssh-ed25519", "ssh-rsa", ...
     QByteArray blob; // the decoded base64: what sshd compares
     QString comment;
@@ -19,6 +23,8 @@ struct SshKey
     QString fingerprint() const;
 
     // "[options ]type base64[ comment]", with a CR LF or LF line end or none. Nothing for
-    // comments, blank lines and anything else that sshd would not take for a key.
+    // comments, blank lines and anything else that sshd would not take for a key, such as an
+    // RSA key of more than rsaMaximumBits. As with sshd, a line that is no key as it stands is
+    // read again after its first word, as options.
     static std::optional<SshKey> fromLine(QByteArrayView line);
 };

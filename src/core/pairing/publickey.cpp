@@ -1,6 +1,7 @@
 #include "pairing/publickey.h"
 
 #include "devices/sshkey.h"
+#include "devices/sshwire.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -13,49 +14,9 @@
 namespace publickey {
 namespace {
 
-// Reads the SSH wire format's length-prefixed strings.
-class BlobReader
-{
-public:
-    explicit BlobReader(QByteArrayView blob)
-        : m_rest(blob)
-    { }
-
-    std::optional<QByteArrayView> string()
-    {
-        if (m_rest.size() < 4)
-            return std::nullopt;
-        const auto *bytes = reinterpret_cast<const uchar *>(m_rest.data());
-        const quint32 length = quint32(bytes[0]) << 24 | quint32(bytes[1]) << 16
-            | quint32(bytes[2]) << 8 | quint32(bytes[3]);
-        if (length > quint32(m_rest.size() - 4))
-            return std::nullopt;
-        const QByteArrayView value = m_rest.sliced(4, length);
-        m_rest = m_rest.sliced(4 + length);
-        return value;
-    }
-    bool atEnd() const { return m_rest.isEmpty(); }
-
-private:
-    QByteArrayView m_rest;
-};
-
-qsizetype bitLength(QByteArrayView mpint)
-{
-    qsizetype i = 0;
-    while (i < mpint.size() && mpint[i] == 0)
-        ++i;
-    if (i == mpint.size())
-        return 0;
-    int top = 8;
-    while (top > 0 && !(uchar(mpint[i]) & (1u << (top - 1))))
-        --top;
-    return (mpint.size() - i - 1) * 8 + top;
-}
-
 bool isValidBlob(const QByteArray &type, const QByteArray &blob)
 {
-    BlobReader reader(blob);
+    sshwire::Reader reader(blob);
     const auto blobType = reader.string();
     if (!blobType || *blobType != type)
         return false;
@@ -65,7 +26,8 @@ bool isValidBlob(const QByteArray &type, const QByteArray &blob)
     }
     const auto exponent = reader.string();
     const auto modulus = reader.string();
-    return exponent && !exponent->isEmpty() && modulus && bitLength(*modulus) >= 2048
+    const qsizetype bits = modulus ? sshwire::bitLength(*modulus) : -1;
+    return exponent && !exponent->isEmpty() && bits >= 2048 && bits <= SshKey::rsaMaximumBits
         && reader.atEnd();
 }
 

@@ -4,7 +4,7 @@
 
 namespace publickey {
 
-// One line "<type> <base64> [comment]" of an Ed25519 key or an RSA key of at least 2048 bits,
+// One line "<type> <base64> [comment]" of an Ed25519 key or an RSA key of 2048 to 16384 bits,
 // as SshKey reads it, with no options, whose blob is a well-formed key of that type, with a short
 // printable comment. Nothing else may reach authorized_keys, where options such as command="..."
 // would change what the key allows.

@@ -5,15 +5,9 @@
 
 bool KeyInstaller::install(const QString &publicKey) const
 {
-    if (const auto problem = authorizedkeys::install(m_home, publicKey, QDate::currentDate())) {
-        if (problem->refused) {
-            qCInfo(lcConsole).nospace().noquote() << "Not installing key: " << problem->text;
-            qCInfo(lcLog).nospace().noquote()
-                << "[QuivraMac] Not installing key: " << problem->text;
-        } else {
-            qCInfo(lcConsole).nospace().noquote() << "Failed to save key: " << problem->text;
-            qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Pairing failed: " << problem->text;
-        }
+    if (const auto error = authorizedkeys::install(m_home, publicKey, QDate::currentDate())) {
+        qCInfo(lcConsole).nospace().noquote() << "Failed to save key: " << *error;
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Pairing failed: " << *error;
         return false;
     }
     qCInfo(lcConsole).nospace().noquote() << "Successfully added key to authorized_keys";

@@ -31,17 +31,21 @@ void OrphanReaper::cleanup()
     m_cleaning = true;
     m_found = false;
     std::optional<qint32> fromPidFile;
-    if (QFile::exists(m_pidFile)) {
-        if (const auto pid = processids::readPidFile(m_pidFile)) {
-            if (m_processes->exists(*pid) && isAppServer(*pid)) {
-                qCInfo(lcLog).nospace().noquote()
-                    << QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)")
-                           .arg(*pid);
-                fromPidFile = *pid;
-                m_found = true;
-            }
-            QFile::remove(m_pidFile);
+    QString problem;
+    if (const auto pid = processids::readPidFile(m_pidFile, &problem)) {
+        if (m_processes->exists(*pid) && isAppServer(*pid)) {
+            qCInfo(lcLog).nospace().noquote()
+                << QStringLiteral("[QuivraMac] Found orphaned server (PID %1 from pidfile)")
+                       .arg(*pid);
+            fromPidFile = *pid;
+            m_found = true;
         }
+        QFile::remove(m_pidFile);
+    } else if (!problem.isEmpty()) {
+        // Not a file of ours to read: etserver could not write its own there either (a FIFO
+        // would block it), so it goes.
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Removing the pid file: " << problem;
+        QFile::remove(m_pidFile);
     }
     // The pid file's server goes first, so that pgrep normally no longer lists it.
     if (fromPidFile)

@@ -1,6 +1,7 @@
 #include "server/processids.h"
 
-#include <QFile>
+#include "platform/safefile.h"
+
 #include <QStringDecoder>
 
 #include <limits>
@@ -27,13 +28,17 @@ std::optional<qint32> parse(const QString &text)
     return qint32(value);
 }
 
-std::optional<qint32> readPidFile(const QString &path)
+std::optional<qint32> readPidFile(const QString &path, QString *problem)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // A number and a line end; anything longer is not etserver's.
+    constexpr qint64 limit = 64;
+    const safefile::Contents read = safefile::read(path, path, limit);
+    if (problem)
+        *problem = read.error;
+    if (read.status != SafeFile::Status::Open)
         return std::nullopt;
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder.decode(file.readAll());
+    const QString text = decoder.decode(read.bytes);
     if (decoder.hasError())
         return std::nullopt;
     return parse(text);

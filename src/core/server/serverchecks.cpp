@@ -7,7 +7,11 @@
 #include <QTcpServer>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace serverchecks {
@@ -39,14 +43,36 @@ uint currentUser()
     return ::getuid();
 }
 
-void removeOwnSocket(const QString &path)
+namespace {
+
+// Connects without waiting: a listener whose queue is full answers EAGAIN, which is no refusal.
+bool refusesConnections(const QByteArray &name)
+{
+    sockaddr_un address {};
+    address.sun_family = AF_UNIX;
+    if (size_t(name.size()) >= sizeof address.sun_path)
+        return false;
+    std::memcpy(address.sun_path, name.constData(), size_t(name.size()));
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    if (fd < 0)
+        return false;
+    const bool refused =
+        ::connect(fd, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
+        && errno == ECONNREFUSED;
+    ::close(fd);
+    return refused;
+}
+
+} // namespace
+
+void removeStaleSocket(const QString &path)
 {
     struct stat entry
     {
     };
     const QByteArray name = QFile::encodeName(path);
     if (::lstat(name.constData(), &entry) == 0 && S_ISSOCK(entry.st_mode)
-        && entry.st_uid == ::getuid())
+        && entry.st_uid == ::getuid() && refusesConnections(name))
         ::unlink(name.constData());
 }
 

@@ -15,9 +15,10 @@ bool ownedByAnotherUser(const QString &path, uint uid);
 // The current user's id.
 uint currentUser();
 
-// Removes the socket a stopped etserver leaves behind, when it is this user's, so that it cannot
-// keep another user's server from starting.
-void removeOwnSocket(const QString &path);
+// Removes the socket a stopped etserver leaves behind, so that it cannot keep another user's
+// server from starting: only a socket of this user's that no one serves any more (a connection
+// to it is refused). A live one is another process's, whatever made it.
+void removeStaleSocket(const QString &path);
 
 // Keeps the newest `keep` etserver-*.log files in the folder and deletes the older ones.
 inline constexpr int keptServerLogs = 10;

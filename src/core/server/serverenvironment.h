@@ -22,6 +22,8 @@ struct ServerEnvironment
     std::function<QString()> localIP = net::getLocalIP;
     std::shared_ptr<platform::ProcessTable> processes = platform::ProcessTable::system();
     QString pgrepProgram = QStringLiteral("/usr/bin/pgrep");
+    // Where etserver listens for its terminals; tests give one of their own.
+    QString serverFifo = QStringLiteral("/tmp/et.fifo");
     std::chrono::milliseconds uptimeInterval { 1000 };
     // 0: any free port (tests), read back from the listener.
     quint16 pairingPort = 8080;

@@ -27,11 +27,6 @@ ServerSupervisor::ServerSupervisor(const ServerEnvironment &environment, QObject
     });
 }
 
-QString ServerSupervisor::serverFifo()
-{
-    return QStringLiteral("/tmp/et.fifo");
-}
-
 QString ServerSupervisor::pidFilePath() const
 {
     return supportDirectory() + QStringLiteral("/etserver.pid");
@@ -135,7 +130,7 @@ void ServerSupervisor::stop()
 void ServerSupervisor::finishStop()
 {
     QFile::remove(pidFilePath());
-    serverchecks::removeOwnSocket(serverFifo());
+    serverchecks::removeStaleSocket(serverFifo());
     setFailure({});
     qCInfo(lcLog).nospace().noquote() << "[QuivraMac] Server stopped";
     if (std::exchange(m_startWhenReady, false))
@@ -151,7 +146,7 @@ void ServerSupervisor::stopForQuit()
         m_process.stopNow(quitGrace);
     }
     m_orphans.stopFromPidFile();
-    serverchecks::removeOwnSocket(serverFifo());
+    serverchecks::removeStaleSocket(serverFifo());
 }
 
 void ServerSupervisor::onOutput(const QByteArray &chunk)
@@ -185,7 +180,7 @@ void ServerSupervisor::onExited(int code, bool crashed, bool current)
     if (!current)
         return;
     Q_EMIT wentDown();
-    serverchecks::removeOwnSocket(serverFifo());
+    serverchecks::removeStaleSocket(serverFifo());
     // A restart cannot fix these: the port is watched instead, the socket needs its owner.
     if (m_portTaken || serverchecks::portInUse(quint16(m_port))) {
         setFailure({ ServerFailure::PortInUse, code, {}, crashed });

@@ -60,7 +60,7 @@ public:
     QString supportDirectory() const { return m_env.supportDirectory(); }
     QString pidFilePath() const;
     // Where etserver listens for its terminals; fixed and shared by every user of the machine.
-    static QString serverFifo();
+    QString serverFifo() const { return m_env.serverFifo; }
     QStringList arguments() const;
 
 Q_SIGNALS:

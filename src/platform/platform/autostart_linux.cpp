@@ -1,8 +1,10 @@
 #include "platform/autostart.h"
+#include "platform/replacefile.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QSaveFile>
+#include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace platform {
@@ -24,22 +26,17 @@ bool setLaunchAtLogin(bool on, QString *error)
         return false;
     }
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    file.write("[Desktop Entry]\nType=Application\nName=QuivraMac\n"
-               "Comment=Makes this computer reachable from the Quivra app\nExec=\""
-               + QCoreApplication::applicationFilePath().toUtf8()
-               + "\"\nTerminal=false\nX-GNOME-Autostart-enabled=true\n");
-    if (!file.commit()) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    return true;
+    // Put in place by rename: a link there is replaced, never written through.
+    const auto failed =
+        replacefile::replace(path, path,
+                             "[Desktop Entry]\nType=Application\nName=QuivraMac\n"
+                             "Comment=Makes this computer reachable from the Quivra app\nExec=\""
+                                 + QCoreApplication::applicationFilePath().toUtf8()
+                                 + "\"\nTerminal=false\nX-GNOME-Autostart-enabled=true\n",
+                             0644);
+    if (failed && error)
+        *error = *failed;
+    return !failed;
 }
 
 } // namespace platform
