@@ -2,6 +2,7 @@
 
 #include "bigdigits.h"
 #include "controlclient.h"
+#include "pairing/pairingsession.h"
 #include "platform/quitsignals.h"
 
 #include <QCoreApplication>
@@ -20,6 +21,7 @@
 
 #include <cstdio>
 #include <unistd.h>
+#include <utility>
 
 namespace commands {
 namespace {
@@ -173,11 +175,21 @@ int pair(ControlClient &client)
             out() << "  " << row << '\n';
         out() << Qt::flush;
     };
+    // Wrong codes keep coming from somewhere: the person at the screen should know from where.
+    QString shownGuessers;
+    const auto showGuessers = [&] {
+        const QString line =
+            PairingSession::describeGuessers(client.property("pairingGuessers").toStringList());
+        if (line == std::exchange(shownGuessers, line) || line.isEmpty())
+            return;
+        out() << (terminal ? "\n" : "") << line << Qt::endl;
+    };
     showCode(client.property("pairingToken").toString());
     out() << "Address: " << address << "\n\n";
     for (const QString &row : bigdigits::render(address))
         out() << "  " << row << '\n';
     out() << "\nOpen Quivra on your iPhone and enter the code. Ctrl-C cancels." << Qt::endl;
+    showGuessers();
 
     // The app owns the code's lifetime: this only shows the time it has left.
     int result = Interrupted;
@@ -197,6 +209,10 @@ int pair(ControlClient &client)
     });
     QObject::connect(
         &client, &ControlClient::propertyChanged, [&](const QString &name, const QVariant &value) {
+            if (name == QLatin1String("pairingGuessers")) {
+                showGuessers();
+                return;
+            }
             if (name == QLatin1String("pairingExpiresAt")) {
                 // Renewed elsewhere (the setup window): the new code replaces the old one.
                 expiresAt = client.property("pairingExpiresAt").toLongLong();

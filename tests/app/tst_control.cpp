@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(manager().property("isRunning").toBool());
     }
 
-    void interruptedPairSwitchesPairingOff()
+    void interruptedPairWarnsOfGuessesAndSwitchesPairingOff()
     {
         QProcess pair;
         pair.setProcessChannelMode(QProcess::MergedChannels);
@@ -158,6 +158,13 @@ private Q_SLOTS:
         const QString code = manager().property("pairingToken").toString();
         QVERIFY(output.contains(QByteArray("Pairing code: " + code.toLatin1())));
         QVERIFY(manager().property("isPairing").toBool());
+        // Someone guessing: the one at the terminal hears where from.
+        const QByteArray wrong = code == "000000" ? "000001" : "000000";
+        for (int i = 0; i < 3; ++i)
+            testsupport::exchange(8080, "POST /pair?token=" + wrong + " HTTP/1.1\r\n\r\n",
+                                  QHostAddress("127.0.0.2"));
+        QTRY_VERIFY(
+            (output += pair.readAll()).contains("Someone is guessing the code from 127.0.0.2\n"));
         ::kill(pid_t(pair.processId()), SIGINT);
         QVERIFY(pair.waitForFinished(5000));
         QCOMPARE(pair.exitCode(), 130);

@@ -31,6 +31,16 @@ void lastMinute(QmlHarness &h, const QString &countdownName)
         countdown->tick();
 }
 
+// Three wrong codes from each of `senders` addresses.
+void guessAt(QmlHarness &h, int senders)
+{
+    for (int sender = 0; sender < senders; ++sender) {
+        for (int i = 0; i < PairingSession::maxFailedAttemptsPerAddress; ++i)
+            h.manager().pairingSession()->recordFailedAttempt(
+                QStringLiteral("192.168.1.%1").arg(77 + sender));
+    }
+}
+
 void setRunning(QmlHarness &h, bool running)
 {
     if (running != h.manager().isRunning())
@@ -108,6 +118,7 @@ int onboardingShots(const QDir &out)
               } },
             { "setup-pairing-waiting", [&] { flow.startPairing(); } },
             { "setup-pairing-last-minute", [&] { lastMinute(h, "onboardingCountdown"); } },
+            { "setup-pairing-guessed-at", [&] { guessAt(h, 1); } },
             { "setup-pairing-connecting",
               [&] { flow.showPairingState(Flow::DeviceConnecting, "Ana's iPhone"); } },
             { "setup-error-wrong-code",
@@ -213,6 +224,10 @@ int main(int argc, char *argv[])
         { "panel-pairing-last-minute",
           "MenuBarView",
           [](QmlHarness &h) { lastMinute(h, "pairingCountdown"); },
+          { 280, 0 } },
+        { "panel-pairing-guessed-at",
+          "MenuBarView",
+          [](QmlHarness &h) { guessAt(h, 2); },
           { 280, 0 } },
         { "settings-general-running",
           "SettingsView",

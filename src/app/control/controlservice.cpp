@@ -135,6 +135,11 @@ qlonglong ServerManagerAdaptor::pairingExpiresAt() const
     return m_manager->pairingExpiresAt();
 }
 
+QStringList ServerManagerAdaptor::pairingGuessers() const
+{
+    return m_manager->pairingGuessers();
+}
+
 QString ServerManagerAdaptor::failureReason() const
 {
     return m_manager->failureReason();

@@ -3,6 +3,7 @@
 #include <QDBusAbstractAdaptor>
 #include <QMetaProperty>
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 
 class ServerManager;
@@ -40,6 +41,7 @@ class ServerManagerAdaptor : public QDBusAbstractAdaptor
     Q_PROPERTY(QString logs READ logs)
     Q_PROPERTY(QString lastPairedDevice READ lastPairedDevice)
     Q_PROPERTY(qlonglong pairingExpiresAt READ pairingExpiresAt)
+    Q_PROPERTY(QStringList pairingGuessers READ pairingGuessers)
     Q_PROPERTY(QString failureReason READ failureReason)
 
 public:
@@ -54,6 +56,7 @@ public:
     QString logs() const;
     QString lastPairedDevice() const;
     qlonglong pairingExpiresAt() const;
+    QStringList pairingGuessers() const;
     QString failureReason() const;
 
 public Q_SLOTS:

@@ -3,8 +3,9 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QuivraMac.Ui
 
-// "Pair New Device", or the code with its countdown while pairing mode is on. What the loaded
-// code shows comes from the singletons, as ids outside a component are unknown to qmllint 6.4.
+// "Pair New Device", or the code with its countdown while pairing mode is on, and who is guessing
+// the code, also after their guesses switched pairing off. What the loaded code shows comes from
+// the singletons, as ids outside a component are unknown to qmllint 6.4.
 ColumnLayout {
     spacing: 8
     MenuRowButton {
@@ -85,5 +86,19 @@ ColumnLayout {
                 onClicked: ServerManager.togglePairingMode()
             }
         }
+    }
+    Text {
+        objectName: "guessingText"
+        visible: ServerManager.pairingGuessers.length > 0
+        Layout.fillWidth: true
+        text: Ui.guessingText(ServerManager.pairingGuessers)
+        textFormat: Text.PlainText
+        // Set, not implicit: an empty text with an implicit alignment asks the input method for
+        // its direction, which crashes Qt 6.4 on a Wayland desktop without a seat.
+        horizontalAlignment: Text.AlignLeft
+        wrapMode: Text.Wrap
+        font.pixelSize: 11
+        font.weight: Font.Medium
+        color: Theme.orange
     }
 }

@@ -117,6 +117,17 @@ Item {
             font.weight: countdown.urgent ? Font.Medium : Font.Normal
             color: countdown.urgent ? Theme.orange : Theme.textSecondary
         }
+        Text {
+            objectName: "onboardingGuessingText"
+            Layout.alignment: Qt.AlignHCenter
+            visible: ServerManager.pairingGuessers.length > 0
+            text: Ui.guessingText(ServerManager.pairingGuessers)
+            textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignHCenter // set: see PairingSection's guessing line
+            font.pixelSize: 13
+            font.weight: Font.Medium
+            color: Theme.orange
+        }
         Divider {}
         Row {
             Layout.alignment: Qt.AlignHCenter

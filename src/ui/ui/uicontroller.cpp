@@ -127,6 +127,11 @@ QString UiController::uptimeText(double seconds) const
     return formats::uptime(seconds);
 }
 
+QString UiController::guessingText(const QStringList &addresses) const
+{
+    return PairingSession::describeGuessers(addresses);
+}
+
 QString UiController::deviceConnectingText(const QString &deviceName) const
 {
     return QStringLiteral("<b>") + deviceName.toHtmlEscaped()

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
 class ServerManager;
 
@@ -55,6 +56,8 @@ public:
     Q_INVOKABLE QString uptimeText(double seconds) const;
     // Styled text with the phone's name in bold; the name, sent by the phone, stays plain text.
     Q_INVOKABLE QString deviceConnectingText(const QString &deviceName) const;
+    // "Someone is guessing the code from ..." for ServerManager.pairingGuessers; empty for none.
+    Q_INVOKABLE QString guessingText(const QStringList &addresses) const;
 
 Q_SIGNALS:
     void autoStartServerChanged();
