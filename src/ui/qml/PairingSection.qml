@@ -98,6 +98,9 @@ ColumnLayout {
         Layout.fillWidth: true
         text: Ui.guessingText(ServerManager.pairingGuessers)
         textFormat: Text.PlainText
+        // Set, not implicit: an empty text with an implicit alignment asks the input method for
+        // its direction, which crashes Qt 6.4 on a Wayland desktop without a seat.
+        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         font.pixelSize: 11
         font.weight: Font.Medium

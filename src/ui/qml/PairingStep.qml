@@ -125,6 +125,7 @@ Item {
             visible: ServerManager.pairingGuessers.length > 0
             text: Ui.guessingText(ServerManager.pairingGuessers)
             textFormat: Text.PlainText
+            horizontalAlignment: Text.AlignHCenter // set: see PairingSection's guessing line
             font.pixelSize: 13
             font.weight: Font.Medium
             color: Theme.orange
