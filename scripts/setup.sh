@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
 # Installs what building, running and testing QuivraMac needs on Debian 12 or Ubuntu, then
 # configures and builds it in ./build. Only missing packages are installed.
+#   scripts/setup.sh [--app] [CMAKE_OPTION...]     --app: build only what running the app needs
 set -euo pipefail
 cd "$(dirname "$0")/.."
+targets=()
+if [ "${1:-}" = --app ]; then
+    targets=(--target quivra-app)
+    shift
+fi
 
 packages=(
     # build
@@ -45,4 +51,4 @@ if ((${#missing[@]})); then
 fi
 
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
-cmake --build build
+cmake --build build "${targets[@]}"
