@@ -2,5 +2,5 @@
 # Sets up, builds and runs QuivraMac.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-scripts/setup.sh
+scripts/setup.sh --app
 exec build/src/main/quivramac "$@"

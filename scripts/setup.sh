@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
 # Installs what building, running and testing QuivraMac needs on Debian 12 or Ubuntu, then
 # configures and builds it in ./build. Only missing packages are installed.
+#   scripts/setup.sh [--app] [CMAKE_OPTION...]     --app: build only what running the app needs
 set -euo pipefail
 cd "$(dirname "$0")/.."
+targets=()
+if [ "${1:-}" = --app ]; then
+    targets=(--target quivra-app)
+    shift
+fi
 
 packages=(
     # build
@@ -39,9 +45,10 @@ if ((${#missing[@]})); then
     [ "$(id -u)" -eq 0 ] || sudo=(sudo)
     echo "Installing: ${missing[*]}"
     "${sudo[@]}" apt-get update -qq
-    DEBIAN_FRONTEND=noninteractive "${sudo[@]}" apt-get install -y -qq --no-install-recommends \
+    # Through env: sudo drops the caller's environment, and debconf would then ask its questions.
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
         "${missing[@]}"
 fi
 
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
-cmake --build build
+cmake --build build "${targets[@]}"
