@@ -316,7 +316,8 @@ private Q_SLOTS:
         setOnboarded(false);
         m_bundle.launch();
         std::optional<QRect> setup, panel;
-        QTRY_VERIFY2_WITH_TIMEOUT((setup = window("QuivraMac Setup")) && (panel = window("QuivraMac")),
+        QTRY_VERIFY2_WITH_TIMEOUT((setup = window("QuivraMac Setup"))
+                                      && (panel = window("QuivraMac")),
                                   qPrintable(m_bundle.output()), 10000);
         QVERIFY2(!setup->intersects(*panel),
                  qPrintable(QDebug::toString(*setup) + QDebug::toString(*panel)));

@@ -39,7 +39,7 @@ mkdir "$work/bundle" && cp "$app" "$(dirname "$app")/quivramac-windows.so" "$ets
 WAYLAND_DEBUG=client "$work/bundle/quivramac" >"$work/app.log" 2>&1 &
 app_pid=$!
 toplevel() { grep -Eq "xdg_toplevel@[0-9]+\.set_title\(\"$1\"\)" "$work/app.log"; }
-within 20 toplevel Setup || fail "no first-run window"
+within 20 toplevel "QuivraMac Setup" || fail "no first-run window"
 within 10 grep -q "^No system tray on this desktop" "$work/app.log" || fail "no word of the missing tray"
 within 10 toplevel QuivraMac || fail "no panel window"
 grep -q "uses X11" "$work/app.log" && fail "fell back to X11"
