@@ -114,15 +114,17 @@ private Q_SLOTS:
         QVERIFY(lines.at(2).startsWith("[QuivraMac] Support dir: "));
         QCOMPARE(lines.at(4), "[QuivraMac] Starting server on port 2022...");
         // The first child's exit arrives after the new start and leaves the new child alone.
-        QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 15\n"));
+        QTRY_VERIFY(!QFileInfo::exists(QStringLiteral("/proc/%1").arg(firstPid)));
+        QCoreApplication::processEvents(); // its exit notice, queued when it was reaped
         QVERIFY(manager.isRunning());
         QTRY_VERIFY(manager.uptime() >= 1.0);
     }
 
-    void stopEndsWithStoppedThenExitNotice()
+    void stopIsLoggedOnce()
     {
         ServerManager &manager = makeManager();
         manager.startServer();
+        const qint64 pid = manager.supervisor().pid();
         const QString pidFile = manager.supervisor().pidFilePath();
         QFile(pidFile).open(QIODevice::WriteOnly);
         manager.stopServer();
@@ -130,8 +132,10 @@ private Q_SLOTS:
         QCOMPARE(manager.supervisor().pid(), 0);
         QCOMPARE(manager.uptime(), 0.0);
         QVERIFY(!QFile::exists(pidFile));
-        QTRY_VERIFY(manager.logs().endsWith(
-            "[QuivraMac] Server stopped\n[QuivraMac] Server exited with code 15\n"));
+        // Not again as an exit with SIGTERM's number, which reads as a fault.
+        QTRY_VERIFY(!QFileInfo::exists(QStringLiteral("/proc/%1").arg(pid)));
+        QCoreApplication::processEvents();
+        QVERIFY(manager.logs().endsWith("[QuivraMac] Server stopped\n"));
     }
 
     void childIgnoringTermIsKilledAfterBoundedWait()
@@ -160,7 +164,6 @@ private Q_SLOTS:
         QVERIFY(
             manager.logs().contains("[QuivraMac] Force killing server (didn't exit gracefully)\n"
                                     "[QuivraMac] Server stopped\n"));
-        QTRY_VERIFY(manager.logs().endsWith("[QuivraMac] Server exited with code 9\n"));
     }
 
     void childExitingByItselfKeepsProcessUntilStop()

@@ -75,7 +75,7 @@ private Q_SLOTS:
             QVERIFY(!manager.isRunning());
             QCOMPARE(manager.failureReason(), "etserver stopped unexpectedly (signal 6)");
             // The exit notice first, then the restart's own line.
-            QVERIFY2(lastLines(2).startsWith("[QuivraMac] Server exited with code 6\n"
+            QVERIFY2(lastLines(2).startsWith("[QuivraMac] Server ended by signal 6 (Aborted)\n"
                                              "[QuivraMac] Restarting server in "
                                              + QString::number(pause.count()) + " s"),
                      qPrintable(lastLines(2)));

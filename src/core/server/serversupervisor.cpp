@@ -1,6 +1,7 @@
 #include "server/serversupervisor.h"
 
 #include "platform/logging.h"
+#include "platform/wording.h"
 #include "server/serverchecks.h"
 #include "server/serverlog.h"
 
@@ -175,8 +176,8 @@ void ServerSupervisor::setFailure(const ServerFailure &failure)
 
 void ServerSupervisor::onExited(int code, bool crashed, bool current)
 {
-    qCInfo(lcLog).nospace().noquote()
-        << QStringLiteral("[QuivraMac] Server exited with code %1").arg(code);
+    if (const QString line = wording::serverEnded(code, crashed, !current); !line.isEmpty())
+        qCInfo(lcLog).nospace().noquote() << "[QuivraMac] " << line;
     if (!current)
         return;
     Q_EMIT wentDown();

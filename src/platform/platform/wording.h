@@ -48,6 +48,10 @@ QString settingsWindowTitle();
 bool setupWindowFrameless();
 // The settings' row that says whether the server runs, in the section "Status".
 QString statusRowLabel();
+// The log's line when a server process has gone: `code` is its exit code, or the signal that
+// ended it when `crashed`; `asked` when the app stopped it. Empty where the platform logs
+// nothing, as for a stop the log has already reported.
+QString serverEnded(int code, bool crashed, bool asked);
 
 #ifndef Q_OS_MACOS
 // The same for a system described by os-release(5) text, in its own package manager's words.

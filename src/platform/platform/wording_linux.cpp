@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <cstring>
+
 namespace wording {
 
 // Decorated like every other window of the desktop, with titles that do not read as the
@@ -23,6 +25,21 @@ bool setupWindowFrameless()
 QString statusRowLabel()
 {
     return QStringLiteral("Server");
+}
+
+// A stop the user asked for is already logged as such; the signal that ended it would read as a
+// fault ("code 15").
+QString serverEnded(int code, bool crashed, bool asked)
+{
+    if (asked)
+        return {};
+    if (crashed) {
+        const char *name = ::strsignal(code);
+        return QStringLiteral("Server ended by signal %1 (%2)")
+            .arg(code)
+            .arg(name ? QString::fromLocal8Bit(name) : QStringLiteral("unknown"));
+    }
+    return QStringLiteral("Server exited with code %1").arg(code);
 }
 
 QString machine()

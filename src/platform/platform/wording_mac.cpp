@@ -19,6 +19,11 @@ QString statusRowLabel()
     return QStringLiteral("Status");
 }
 
+QString serverEnded(int code, bool, bool)
+{
+    return QStringLiteral("Server exited with code %1").arg(code);
+}
+
 QString machine()
 {
     return QStringLiteral("Mac");
