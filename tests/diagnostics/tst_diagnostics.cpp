@@ -122,14 +122,14 @@ private Q_SLOTS:
     }
 
 #ifndef Q_OS_MACOS
-    // The SSH server's and Eternal Terminal's install steps follow the system's family.
+    // The SSH server's and Eternal Terminal's install steps follow the system's family; an
+    // installed server that does not answer is started, by its service's name.
     void installStepsFollowOsRelease_data()
     {
         QTest::addColumn<QString>("osRelease");
         QTest::addColumn<QString>("ssh");
         QTest::addColumn<QString>("et");
-        const QString apt = "SSH server is not running. Install it with: sudo apt install "
-                            "openssh-server";
+        const QString apt = "sudo apt install openssh-server";
         QTest::newRow("debian")
             << "PRETTY_NAME=\"Debian GNU/Linux 12 "
                "(bookworm)\"\nID=debian\nVERSION_CODENAME=bookworm\n"
@@ -147,26 +147,39 @@ private Q_SLOTS:
                                       << apt
                                       << "sudo add-apt-repository ppa:jgmath2000/et && sudo apt "
                                          "install et";
-        QTest::newRow("fedora") << "NAME=\"Fedora Linux\"\nID=fedora\n"
-                                << "SSH server is not running. Install it with: sudo dnf install "
-                                   "openssh-server && sudo systemctl enable --now sshd"
-                                << "sudo dnf install et";
+        QTest::newRow("fedora")
+            << "NAME=\"Fedora Linux\"\nID=fedora\n"
+            << "sudo dnf install openssh-server && sudo systemctl enable --now sshd"
+            << "sudo dnf install et";
         QTest::newRow("manjaro") << "ID=manjaro\nID_LIKE=arch\n"
-                                 << "SSH server is not running. Install it with: sudo pacman -S "
-                                    "openssh && sudo systemctl enable --now sshd"
+                                 << "sudo pacman -S openssh && sudo systemctl enable --now sshd"
                                  << "yay -S eternalterminal";
-        const QString other = "SSH server is not running. Install and start OpenSSH's sshd.";
-        QTest::newRow("alpine") << "ID=alpine\n" << other << "";
-        QTest::newRow("unreadable") << "" << other << "";
-        QTest::newRow("look-alike keys") << "ID_LIKE_NOT=debian\nXID=fedora\n" << other << "";
+        QTest::newRow("alpine") << "ID=alpine\n"
+                                << ""
+                                << "";
+        QTest::newRow("unreadable") << ""
+                                    << ""
+                                    << "";
+        QTest::newRow("look-alike keys") << "ID_LIKE_NOT=debian\nXID=fedora\n"
+                                         << ""
+                                         << "";
     }
     void installStepsFollowOsRelease()
     {
         QFETCH(QString, osRelease);
         QFETCH(QString, ssh);
         QFETCH(QString, et);
-        QCOMPARE(wording::sshNotRunningOn(osRelease), ssh);
+        const wording::SshAdvice missing = wording::sshAdviceOn(osRelease, { false, {} });
+        QCOMPARE(missing.command, ssh);
+        QCOMPARE(missing.message,
+                 ssh.isEmpty() ? "SSH server is not installed. Install and start OpenSSH's sshd."
+                               : "SSH server is not installed. Install it with:");
         QCOMPARE(wording::etserverInstallCommandOn(osRelease), et);
+
+        const wording::SshAdvice stopped = wording::sshAdviceOn(osRelease, { true, "ssh" });
+        QCOMPARE(stopped.message, "SSH server is installed but not running. Start it with:");
+        QCOMPARE(stopped.command, "sudo systemctl enable --now ssh");
+        QVERIFY(wording::sshAdviceOn(osRelease, { true, {} }).command.isEmpty());
     }
 #endif
 

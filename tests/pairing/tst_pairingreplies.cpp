@@ -66,7 +66,8 @@ private Q_SLOTS:
         QCOMPARE(
             exchange(m_fixture->port(), "GET /status HTTP/1.1\r\n\r\n"),
             json("{\"ready\":false,\"diagnostics\":["
-                 + check("ssh_daemon", "SSH Server", wording::sshNotRunning().toUtf8().constData())
+                 + check("ssh_daemon", "SSH Server",
+                         wording::sshNotRunning(platform::sshServerInstall()).toUtf8().constData())
                  + "," + check("ssh_dir", "SSH Directory", "~\\/.ssh directory doesn't exist", true)
                  + ","
                  + check("auth_keys", "Authorized Keys", "~\\/.ssh directory doesn't exist", true)

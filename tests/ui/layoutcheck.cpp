@@ -214,13 +214,28 @@ bool isAncestor(const QQuickItem *maybe, const QQuickItem *item)
     return false;
 }
 
+// The open modal sheet, whose dimmed window behind is neither read nor clicked; none without.
+QQuickItem *modalSheet(QQuickItem *item)
+{
+    const auto children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (child->inherits("QQuickPopupItem") && child->isVisible() && child->parent()
+            && child->parent()->property("modal").toBool())
+            return child;
+        if (QQuickItem *found = modalSheet(child))
+            return found;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 QStringList faults(QQuickWindow *window)
 {
     QList<QQuickItem *> texts;
     QList<QQuickItem *> controls;
-    collect(window->contentItem(), texts, controls);
+    QQuickItem *sheet = modalSheet(window->contentItem());
+    collect(sheet ? sheet : window->contentItem(), texts, controls);
 
     QStringList found;
     for (QQuickItem *item : texts + controls) {
@@ -292,6 +307,11 @@ bool animating(const QObject *object)
 bool moving(const QQuickItem *item)
 {
     if (item->inherits("QQuickStackView") && item->property("busy").toBool())
+        return true;
+    // A popup is placed when it has opened and the overlay it sizes itself by has a size.
+    if (item->inherits("QQuickPopupItem") && item->isVisible()
+        && (item->width() <= 0 || item->height() <= 0 || !item->parent()
+            || !item->parent()->property("opened").toBool()))
         return true;
     if (animating(item))
         return true;

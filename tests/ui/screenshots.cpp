@@ -6,6 +6,7 @@
 #include "onboarding/systemcheck.h"
 #include "qmlharness.h"
 #include "ui/pairingcountdown.h"
+#include "ui/uicontroller.h"
 
 #include <QApplication>
 #include <QDir>
@@ -110,11 +111,14 @@ int onboardingShots(const QDir &out)
               [&] { runChecksUntil(h, [&] { return check.failedIndex() >= 0; }); } },
             { "setup-check-passed",
               [&] {
-                  QDir().mkpath(ssh);
-                  QFile::setPermissions(ssh,
-                                        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-                  check.start();
+                  check.fix();
                   runChecksUntil(h, [&] { return check.allPassed(); });
+              } },
+            { "setup-check-ssh-stopped",
+              [&] {
+                  h.closeSshDaemon();
+                  check.start();
+                  runChecksUntil(h, [&] { return check.failedIndex() >= 0; });
               } },
             { "setup-pairing-waiting", [&] { flow.startPairing(); } },
             { "setup-pairing-last-minute", [&] { lastMinute(h, "onboardingCountdown"); } },
@@ -156,8 +160,10 @@ int missingEtserverShots(const QDir &out)
         h.manager().startServer();
         h.show("MenuBarView");
         failures += saveAndCheck(h, out.filePath("panel-etserver-missing" + scheme), { 280, 0 });
-        h.show("InstallEtSheet");
-        failures += saveAndCheck(h, out.filePath("install-etserver" + scheme), { 460, 0 });
+        h.show("SettingsView");
+        h.ui().openInstallSteps();
+        QMetaObject::invokeMethod(h.view(), "takeRequest");
+        failures += saveAndCheck(h, out.filePath("install-etserver" + scheme), { 500, 400 });
         h.onboarding().appear();
         h.show("OnboardingView");
         h.onboarding().welcomeContinue();

@@ -17,6 +17,8 @@
 #include <QJsonObject>
 #include <QSysInfo>
 
+#include <sys/stat.h>
+
 using Flow = OnboardingFlow;
 
 namespace {
@@ -32,6 +34,14 @@ void makeSshDirectory(QFile::Permissions permissions)
 }
 
 constexpr auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+uint mode(const QString &path)
+{
+    struct stat info
+    {
+    };
+    return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
+}
 
 QList<SystemCheck::State> states(const SystemCheck &check)
 {
@@ -198,9 +208,12 @@ private Q_SLOTS:
         QVERIFY(h().manager().isRunning());
     }
 
-    void systemCheckStopsAtTheFirstFailure()
+    // A fresh account has no ~/.ssh; a dotfile copy may have loose modes. Fix mends both from
+    // the window and checks again by itself, but never through a link.
+    void systemCheckStopsAtTheFirstFailureAndFixesSshKeys()
     {
         SystemCheck &check = h().systemCheck();
+        const QString ssh = QDir::homePath() + "/.ssh";
         makeSshDirectory({});
         check.appear();
         runChecks(check);
@@ -210,22 +223,53 @@ private Q_SLOTS:
         QCOMPARE(check.title(), "Almost there...");
         QCOMPARE(check.failedMessage(), "~/.ssh directory doesn't exist");
         QCOMPARE(check.failedPrompt(), prompts::missingSshDirectory());
+        QVERIFY(check.failedCanFix());
+        check.fix();
+        runChecks(check);
+        QVERIFY(check.allPassed());
+        QCOMPARE(mode(ssh), 0700u);
 
-        makeSshDirectory(owner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther
-                         | QFile::ExeOther);
-        h().manager().startServer(); // the list keeps what it was built with
+        const auto loose =
+            owner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+        QFile::setPermissions(ssh, loose);
+        QFile keys(ssh + "/authorized_keys");
+        QVERIFY(keys.open(QIODevice::WriteOnly));
+        keys.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup
+                            | QFile::WriteGroup);
         check.start();
-        QCOMPARE(check.failedIndex(), -1);
         runChecks(check);
         QCOMPARE(check.failedMessage(), "~/.ssh has wrong permissions");
         QVERIFY(check.failedPrompt().contains("Current permissions: 755\nExpected: 700"));
+        check.fix();
+        runChecks(check);
+        QVERIFY(check.allPassed());
+        QCOMPARE(mode(ssh), 0700u);
+        QCOMPARE(mode(keys.fileName()), 0600u);
 
-        makeSshDirectory(owner);
+        // A link the user made to a folder of theirs: its mode is theirs to set.
+        const QString elsewhere = QDir::homePath() + "/dotfiles-ssh";
+        QVERIFY(QDir().rename(ssh, elsewhere));
+        QFile::setPermissions(elsewhere, loose);
+        QVERIFY(QFile::link(elsewhere, ssh));
+        check.start();
+        runChecks(check);
+        QCOMPARE(check.failedMessage(), "~/.ssh has wrong permissions");
+        check.fix();
+        QVERIFY(check.failedMessage().startsWith("~/.ssh is a link"));
+        QVERIFY(!check.failedCanFix());
+        QCOMPARE(mode(elsewhere), 0755u);
+        QFile::setPermissions(elsewhere, owner);
+        check.start();
+        runChecks(check);
+        QVERIFY(check.allPassed());
+
         h().closeSshDaemon();
         check.start();
         runChecks(check);
         QCOMPARE(check.failedIndex(), 0);
-        QVERIFY(check.failedMessage().startsWith("SSH server is not running."));
+        QCOMPARE(check.failedMessage(), "SSH server is installed but not running. Start it with:");
+        QCOMPARE(check.failedCommand(), "sudo systemctl enable --now ssh");
+        QVERIFY(!check.failedCanFix());
         QVERIFY(check.failedPrompt().contains("Help me install and start the SSH server on this "
                                               "computer so I can connect from my iPhone."));
     }

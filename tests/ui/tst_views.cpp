@@ -151,15 +151,22 @@ private Q_SLOTS:
         QVERIFY(h().find<QQuickItem>("installEtRow")->isVisible());
         QSignalSpy requested(&h().ui(), &UiController::windowRequested);
         click("installEtRow");
-        QCOMPARE(requested.value(0).value(0).toString(), "installEt");
+        QCOMPARE(requested.value(0).value(0).toString(), "settings");
 
+        // The steps open over the settings, on General, whichever tab it showed.
         h().show("SettingsView");
+        h().view()->setProperty("selectedTab", 2);
+        QMetaObject::invokeMethod(h().view(), "takeRequest");
+        QTRY_VERIFY(h().find<QQuickItem>("installEtSheet")
+                    && h().find<QQuickItem>("installEtSheet")->isVisible());
+        QCOMPARE(h().view()->property("selectedTab").toInt(), 0);
         QCOMPARE(text("statusReason"), reason);
-        QVERIFY(h().find<QQuickItem>("statusReason")->isVisible());
-        QVERIFY(h().find<QQuickItem>("installEtLink")->isVisible());
-        h().show("InstallEtSheet");
         QVERIFY(h().visibleTexts().contains(
             "2. Turn on the server with the switch in the QuivraMac panel."));
+        h().window()->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(h().window()));
+        QTest::keyClick(h().window(), Qt::Key_Escape);
+        QTRY_VERIFY(!h().find<QQuickItem>("installEtSheet")->isVisible());
     }
 
     void pairedPhonesAreListedAndRevokedWithConfirmation()

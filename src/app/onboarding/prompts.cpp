@@ -57,6 +57,14 @@ QString wrongPermissions(const QString &octal)
                      .arg(octal));
 }
 
+QString wrongKeyPermissions(const QString &octal)
+{
+    return issue(QStringLiteral("~/.ssh/authorized_keys has wrong permissions."),
+                 QStringLiteral("Current permissions: %1\nExpected: 600\n\nHelp me fix the "
+                                "permissions on my ~/.ssh/authorized_keys file.")
+                     .arg(octal));
+}
+
 QString portInUse(int port)
 {
     return issue(QStringLiteral("Port %1 is already in use.").arg(port),

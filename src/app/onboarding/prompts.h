@@ -14,6 +14,7 @@ QString context();
 QString remoteLogin();
 QString missingSshDirectory();
 QString wrongPermissions(const QString &octal);
+QString wrongKeyPermissions(const QString &octal);
 QString portInUse(int port);
 // Only the last 500 characters of the log go in, fenced; an empty log adds nothing.
 QString serverCrash(int exitCode, const QString &logs);

@@ -2,6 +2,7 @@
 
 #include "diagnostics/checks.h"
 #include "diagnostics/sshprobe.h"
+#include "diagnostics/sshrepair.h"
 #include "net/localaddress.h"
 #include "onboarding/prompts.h"
 #include "platform/wording.h"
@@ -36,6 +37,31 @@ QString SystemCheck::failedMessage() const
 QString SystemCheck::failedPrompt() const
 {
     return m_failed >= 0 ? m_items.at(m_failed).prompt : QString();
+}
+
+QString SystemCheck::failedCommand() const
+{
+    return m_failed >= 0 ? m_items.at(m_failed).command : QString();
+}
+
+bool SystemCheck::failedCanFix() const
+{
+    return m_failed >= 0 && m_items.at(m_failed).canFix;
+}
+
+void SystemCheck::fix()
+{
+    if (!failedCanFix())
+        return;
+    // Only the SSH keys' folder is mended here; the others need the user or the system.
+    if (const auto error = sshrepair::repair(m_system.homeDirectory())) {
+        Item &item = m_items[m_failed];
+        item.message = *error;
+        item.canFix = false;
+        Q_EMIT checksChanged();
+        return;
+    }
+    start();
 }
 
 QString SystemCheck::title() const
@@ -75,6 +101,8 @@ void SystemCheck::start()
         item.state = Pending;
         item.message.clear();
         item.prompt.clear();
+        item.command.clear();
+        item.canFix = false;
     }
     Q_EMIT checksChanged();
     Q_EMIT titleChanged();
@@ -111,6 +139,8 @@ void SystemCheck::store(quint64 run, const Item &result)
     item.state = result.state;
     item.message = result.message;
     item.prompt = result.prompt;
+    item.command = result.command;
+    item.canFix = result.canFix;
     if (item.state == Passed) {
         ++m_current;
         Q_EMIT checksChanged();
@@ -140,9 +170,13 @@ void SystemCheck::runCheck(const QString &id, std::function<void(Item)> done)
 }
 
 namespace {
-SystemCheck::Item failed(const QString &message, const QString &prompt)
+SystemCheck::Item failed(const QString &message, const QString &prompt, const QString &command = {})
 {
-    return { {}, {}, {}, SystemCheck::Failed, message, prompt };
+    return { {}, {}, {}, SystemCheck::Failed, message, prompt, command };
+}
+SystemCheck::Item fixable(const QString &message, const QString &prompt)
+{
+    return { {}, {}, {}, SystemCheck::Failed, message, prompt, {}, true };
 }
 const SystemCheck::Item passed { {}, {}, {}, SystemCheck::Passed };
 } // namespace
@@ -151,9 +185,12 @@ void SystemCheck::checkSsh(std::function<void(Item)> done)
 {
     // A probe of its own: "Try Again" after enabling the daemon must not get an old answer.
     auto *probe = new SshProbe(m_sshHost, m_sshPort, this);
-    probe->probe(this, [probe, done = std::move(done)](bool accepting) {
+    probe->probe(this, [this, probe, done = std::move(done)](bool accepting) {
         probe->deleteLater();
-        done(accepting ? passed : failed(wording::sshNotRunningShort(), prompts::remoteLogin()));
+        if (accepting)
+            return done(passed);
+        const wording::SshAdvice advice = wording::sshSetupAdvice(m_system.sshServer());
+        done(failed(advice.message, prompts::remoteLogin(), advice.command));
     });
 }
 
@@ -163,15 +200,19 @@ SystemCheck::Item SystemCheck::checkSshDirectory() const
     const checks::SshDirectoryState state = checks::inspectSshDirectory(m_system.homeDirectory());
     switch (state.kind) {
     case checks::SshDirectoryState::Missing:
-        return failed(QStringLiteral("~/.ssh directory doesn't exist"),
-                      prompts::missingSshDirectory());
+        return fixable(QStringLiteral("~/.ssh directory doesn't exist"),
+                       prompts::missingSshDirectory());
     case checks::SshDirectoryState::WrongMode:
-        return failed(QStringLiteral("~/.ssh has wrong permissions"),
-                      prompts::wrongPermissions(QString::number(state.mode, 8)));
+        return fixable(QStringLiteral("~/.ssh has wrong permissions"),
+                       prompts::wrongPermissions(QString::number(state.mode, 8)));
     case checks::SshDirectoryState::Unreadable: // unreadable permissions count as correct
     case checks::SshDirectoryState::Fine:
         break;
     }
+    // sshd ignores a key file others can change; 0600 is what pairing gives it.
+    if (const auto mode = checks::authorizedKeysWrongMode(m_system.homeDirectory()))
+        return fixable(QStringLiteral("authorized_keys has wrong permissions"),
+                       prompts::wrongKeyPermissions(QString::number(*mode, 8)));
     return passed;
 }
 

@@ -20,6 +20,10 @@ class SystemCheck : public QObject
     Q_PROPERTY(int failedIndex READ failedIndex NOTIFY checksChanged)
     Q_PROPERTY(QString failedMessage READ failedMessage NOTIFY checksChanged)
     Q_PROPERTY(QString failedPrompt READ failedPrompt NOTIFY checksChanged)
+    // A command that mends the failure, shown apart so that it can be copied; may be empty.
+    Q_PROPERTY(QString failedCommand READ failedCommand NOTIFY checksChanged)
+    // The app can mend the failure itself (fix()).
+    Q_PROPERTY(bool failedCanFix READ failedCanFix NOTIFY checksChanged)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
 
 public:
@@ -34,6 +38,8 @@ public:
         State state = Pending;
         QString message {};
         QString prompt {};
+        QString command {};
+        bool canFix = false;
     };
 
     static constexpr std::chrono::milliseconds beforeEachCheck { 300 };
@@ -52,12 +58,16 @@ public:
     int failedIndex() const { return m_failed; }
     QString failedMessage() const;
     QString failedPrompt() const;
+    QString failedCommand() const;
+    bool failedCanFix() const;
     QString title() const;
 
     // The screen appears: the list is built (port and address read now), then checked.
     Q_INVOKABLE void appear();
     // "Try Again": every item back to pending, the same list checked from the first item.
     Q_INVOKABLE void start();
+    // "Fix": mends what failed, then checks again; where it cannot, the failure says why.
+    Q_INVOKABLE void fix();
 
 Q_SIGNALS:
     void checksChanged();

@@ -8,11 +8,12 @@
 #include <QFileInfo>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 DiagnosticSystem DiagnosticSystem::real()
 {
-    return { QDir::homePath, net::systemInterfaceAddresses, platform::tailscaleInstalled,
-             platform::userName, [] { return net::hostLabel(); } };
+    return { QDir::homePath,     net::systemInterfaceAddresses,   platform::tailscaleInstalled,
+             platform::userName, [] { return net::hostLabel(); }, platform::sshServerInstall };
 }
 
 namespace checks {
@@ -62,14 +63,34 @@ QString octal(mode_t mode)
 SshDirectoryState inspectSshDirectory(const QString &home)
 {
     const QString path = home + QStringLiteral("/.ssh");
-    if (!QFileInfo(path).isDir()) // follows a symbolic link
+    const QFileInfo info(path);
+    if (!info.isDir()) // follows a symbolic link
         return { SshDirectoryState::Missing };
-    const auto mode = permissions(path);
+    // A link of the user's own (dotfile managers make them) stands for the folder it points to,
+    // as it does for sshd and for pairing.
+    struct stat link
+    {
+    };
+    const bool ownLink = ::lstat(QFile::encodeName(path).constData(), &link) == 0
+        && S_ISLNK(link.st_mode) && link.st_uid == ::getuid();
+    const auto mode = permissions(ownLink ? info.canonicalFilePath() : path);
     if (!mode)
         return { SshDirectoryState::Unreadable };
     if (*mode != 0700)
         return { SshDirectoryState::WrongMode, uint(*mode) };
     return {};
+}
+
+std::optional<uint> authorizedKeysWrongMode(const QString &home)
+{
+    const QString path = home + QStringLiteral("/.ssh/authorized_keys");
+    struct stat info
+    {
+    };
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0 || !S_ISREG(info.st_mode)
+        || (info.st_mode & 07777) == 0600)
+        return std::nullopt;
+    return uint(info.st_mode & 07777);
 }
 
 DiagnosticStatus sshDirectory(const QString &home)

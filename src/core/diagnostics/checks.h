@@ -2,6 +2,7 @@
 
 #include "diagnostics/diagnosticcheck.h"
 #include "net/localaddress.h"
+#include "platform/systeminfo.h"
 
 #include <QList>
 
@@ -21,6 +22,8 @@ struct DiagnosticSystem
     std::function<bool()> tailscaleInstalled;
     std::function<QString()> userName;
     std::function<QString()> hostLabel;
+    // Asked only when the SSH server does not answer, to say what to do about it.
+    std::function<platform::SshServerInstall()> sshServer = platform::sshServerInstall;
 
     static DiagnosticSystem real();
 };
@@ -39,6 +42,8 @@ struct SshDirectoryState
     uint mode = 0;
 };
 SshDirectoryState inspectSshDirectory(const QString &home);
+// The mode of ~/.ssh/authorized_keys when it is a file whose mode is not 0600.
+std::optional<uint> authorizedKeysWrongMode(const QString &home);
 
 DiagnosticStatus sshDirectory(const QString &home);
 DiagnosticStatus authorizedKeys(const QString &home);

@@ -51,9 +51,10 @@ void DiagnosticEngine::runProbe(const QString &id,
                                 const std::function<void(const DiagnosticStatus &)> &store)
 {
     if (id == QLatin1String("ssh_daemon")) {
-        m_probe->probe(this, [store](bool accepting) {
-            store(accepting ? DiagnosticStatus::passed()
-                            : DiagnosticStatus::failed(wording::sshNotRunning()));
+        m_probe->probe(this, [this, store](bool accepting) {
+            store(accepting
+                      ? DiagnosticStatus::passed()
+                      : DiagnosticStatus::failed(wording::sshNotRunning(m_system.sshServer())));
         });
     } else if (id == QLatin1String("ssh_dir")) {
         store(checks::sshDirectory(m_system.homeDirectory()));

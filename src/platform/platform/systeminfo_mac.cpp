@@ -9,4 +9,10 @@ bool tailscaleInstalled()
     return QFileInfo::exists(QStringLiteral("/Applications/Tailscale.app"));
 }
 
+// Part of the system, switched on as Remote Login.
+SshServerInstall sshServerInstall()
+{
+    return { true, QStringLiteral("com.openssh.sshd") };
+}
+
 } // namespace platform

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/systeminfo.h"
+
 #include <QString>
 
 // The texts that name this machine and its platform's services. macOS keeps the product's own
@@ -29,10 +31,16 @@ QString connectionFailed();
 // The SSH server check, as the phone's report and the setup window name it.
 QString sshCheckName();
 QString sshCheckDescription();
-// Why it failed and what to do: the phone's report and the setup window show the same words.
-QString sshNotRunning();
-// The setup window's shorter form where the platform has one.
-QString sshNotRunningShort();
+// Why it failed and what mends it: a sentence, and the command to run where there is one.
+struct SshAdvice
+{
+    QString message;
+    QString command;
+};
+// The setup window's words: the command stands apart so that it can be copied.
+SshAdvice sshSetupAdvice(const platform::SshServerInstall &install);
+// The phone's report: the same in one line.
+QString sshNotRunning(const platform::SshServerInstall &install);
 QString sshRequestTitle();
 QString sshRequest();
 QString noNetworkRequest();
@@ -55,7 +63,7 @@ QString serverEnded(int code, bool crashed, bool asked);
 
 #ifndef Q_OS_MACOS
 // The same for a system described by os-release(5) text, in its own package manager's words.
-QString sshNotRunningOn(const QString &osRelease);
+SshAdvice sshAdviceOn(const QString &osRelease, const platform::SshServerInstall &install);
 QString etserverInstallCommandOn(const QString &osRelease);
 #endif
 

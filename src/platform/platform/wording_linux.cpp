@@ -129,21 +129,31 @@ QString osRelease()
 
 } // namespace
 
-QString sshNotRunningOn(const QString &osRelease)
+SshAdvice sshAdviceOn(const QString &osRelease, const platform::SshServerInstall &install)
 {
-    const QString prefix = QStringLiteral("SSH server is not running. Install it with: ");
+    if (install.installed) {
+        // Installed and not answering: its service is off (Debian starts it on install, Fedora
+        // and Arch do not).
+        if (install.service.isEmpty())
+            return { QStringLiteral("SSH server is installed but not running. Start its service "
+                                    "(sshd)."),
+                     {} };
+        return { QStringLiteral("SSH server is installed but not running. Start it with:"),
+                 QStringLiteral("sudo systemctl enable --now ") + install.service };
+    }
+    const QString prefix = QStringLiteral("SSH server is not installed. Install it with:");
     for (const QString &id : family(osRelease)) {
         if (id == QLatin1String("debian") || id == QLatin1String("ubuntu"))
-            return prefix + QStringLiteral("sudo apt install openssh-server");
+            return { prefix, QStringLiteral("sudo apt install openssh-server") };
         if (id == QLatin1String("fedora"))
-            return prefix
-                + QStringLiteral("sudo dnf install openssh-server && sudo systemctl enable --now "
-                                 "sshd");
+            return { prefix,
+                     QStringLiteral("sudo dnf install openssh-server && sudo systemctl enable "
+                                    "--now sshd") };
         if (id == QLatin1String("arch"))
-            return prefix
-                + QStringLiteral("sudo pacman -S openssh && sudo systemctl enable --now sshd");
+            return { prefix,
+                     QStringLiteral("sudo pacman -S openssh && sudo systemctl enable --now sshd") };
     }
-    return QStringLiteral("SSH server is not running. Install and start OpenSSH's sshd.");
+    return { QStringLiteral("SSH server is not installed. Install and start OpenSSH's sshd."), {} };
 }
 
 namespace {
@@ -185,19 +195,25 @@ QString etserverInstallCommandOn(const QString &osRelease)
 }
 
 // Read once: every status report asks, and the system does not change while the app runs.
-QString sshNotRunning()
+const QString &systemRelease()
 {
-    static const QString message = sshNotRunningOn(osRelease());
-    return message;
+    static const QString text = osRelease();
+    return text;
+}
+SshAdvice sshSetupAdvice(const platform::SshServerInstall &install)
+{
+    return sshAdviceOn(systemRelease(), install);
+}
+QString sshNotRunning(const platform::SshServerInstall &install)
+{
+    const SshAdvice advice = sshSetupAdvice(install);
+    return advice.command.isEmpty() ? advice.message
+                                    : advice.message + QLatin1Char(' ') + advice.command;
 }
 QString etserverInstallCommand()
 {
-    static const QString command = etserverInstallCommandOn(osRelease());
+    static const QString command = etserverInstallCommandOn(systemRelease());
     return command;
-}
-QString sshNotRunningShort()
-{
-    return sshNotRunning();
 }
 QString sshRequestTitle()
 {

@@ -84,14 +84,14 @@ QString sshCheckDescription()
 {
     return QStringLiteral("SSH daemon is running and accepting connections");
 }
-QString sshNotRunning()
+QString sshNotRunning(const platform::SshServerInstall &)
 {
     return QStringLiteral("Remote Login is disabled. Enable it in System Settings \u2192 General "
                           "\u2192 Sharing \u2192 Remote Login");
 }
-QString sshNotRunningShort()
+SshAdvice sshSetupAdvice(const platform::SshServerInstall &)
 {
-    return QStringLiteral("Remote Login is disabled");
+    return { QStringLiteral("Remote Login is disabled"), {} };
 }
 QString sshRequestTitle()
 {

@@ -48,17 +48,23 @@ ColumnLayout {
         radius: 8
         color: Theme.card
         clip: true
-        Text {
-            textFormat: Text.PlainText
+        // Nothing paired yet: the way to pair one, right here.
+        ColumnLayout {
             objectName: "noDevices"
             anchors.centerIn: parent
-            width: parent.width - 40
+            width: Math.min(parent.width - 40, 280)
             visible: Ui.devices.count === 0
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            text: "No phone can log in with a paired key.\nPair one with \"Pair New Device\" in the menu."
-            font.pixelSize: 13
-            color: Theme.textSecondary
+            spacing: 12
+            Text {
+                textFormat: Text.PlainText
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                text: "No phone can log in with a paired key yet."
+                font.pixelSize: 13
+                color: Theme.textSecondary
+            }
+            PairingSection { Layout.fillWidth: true }
         }
         ListView {
             id: list

@@ -6,6 +6,7 @@ import QuivraMac.Ui
 // The automatic-start switch, port, address, running state, uptime, start and stop.
 ScrollView {
     id: tab
+    property alias installLink: installLink
     contentWidth: availableWidth
 
     component SectionBox: Rectangle {
@@ -84,7 +85,7 @@ ScrollView {
                     color: Theme.textSecondary
                 }
             }
-            InstallLink { visible: Ui.etserverMissing }
+            InstallLink { id: installLink; visible: Ui.etserverMissing }
             Text {
                 textFormat: Text.PlainText
                 objectName: "statusReason"

@@ -46,36 +46,11 @@ ThemedSurface {
             font.pixelSize: 13
             color: Theme.text
         }
-        RowLayout {
+        CommandField {
+            objectName: "installCommand"
             visible: sheet.command !== ""
             Layout.fillWidth: true
-            spacing: 8
-            Rectangle {
-                Layout.fillWidth: true
-                implicitHeight: commandText.implicitHeight + 16
-                radius: 6
-                color: Theme.card
-                TextEdit {
-                    id: commandText
-                    objectName: "installCommand"
-                    x: 8
-                    y: 8
-                    width: parent.width - 16
-                    wrapMode: TextEdit.Wrap
-                    readOnly: true
-                    selectByMouse: true
-                    text: sheet.command
-                    font.family: Theme.monospace
-                    font.pixelSize: 12
-                    color: Theme.text
-                }
-            }
-            Button {
-                objectName: "copyInstallCommand"
-                Layout.alignment: Qt.AlignTop
-                text: "Copy"
-                onClicked: Ui.copyText(sheet.command)
-            }
+            command: sheet.command
         }
         Text {
             textFormat: Text.PlainText

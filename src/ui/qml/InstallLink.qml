@@ -1,10 +1,47 @@
 import QtQuick
+import QtQuick.Controls
 import QuivraMac.Ui
 
-// Opens the steps to install Eternal Terminal, wherever a missing etserver is reported.
+// Opens the steps to install Eternal Terminal as a sheet over the window it sits in, wherever a
+// missing etserver is reported.
 LinkButton {
+    id: link
     objectName: "installEtLink"
     text: "How to install Eternal Terminal..."
     pixelSize: 13
-    onClicked: Ui.openWindow("installEt")
+    onClicked: showSteps()
+    function showSteps() { sheet.open() }
+
+    Popup {
+        id: sheet
+        objectName: "installEtPopup"
+        parent: Overlay.overlay
+        modal: true
+        dim: true
+        focus: true
+        closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+        anchors.centerIn: parent
+        width: Math.min(460, parent ? parent.width - 24 : 460)
+        height: Math.min(steps.implicitHeight, parent ? parent.height - 24 : steps.implicitHeight)
+        padding: 0
+        background: Rectangle {
+            radius: 12
+            color: Theme.background
+            border.width: 1
+            border.color: Theme.separator
+        }
+        Overlay.modal: Rectangle { color: Theme.withAlpha("#000000", Theme.dark ? 0.5 : 0.3) }
+        contentItem: Flickable {
+            clip: true
+            contentHeight: steps.implicitHeight
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: ScrollBar { policy: parent.contentHeight > parent.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+            InstallEtSheet {
+                id: steps
+                width: sheet.width
+                color: "transparent"
+                onDone: sheet.close()
+            }
+        }
+    }
 }

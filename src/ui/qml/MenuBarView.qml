@@ -27,7 +27,7 @@ ThemedSurface {
             visible: Ui.etserverMissing
             title: "How to install Eternal Terminal..."
             symbol: "questionmark.circle"
-            onClicked: Ui.openWindow("installEt")
+            onClicked: Ui.openInstallSteps()
         }
         Divider {}
         PairingSection {

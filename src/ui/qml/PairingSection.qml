@@ -47,8 +47,10 @@ ColumnLayout {
                     color: countdown.urgent ? Theme.orange : Theme.textSecondary
                 }
             }
-            Row {
+            // As wide as the rows around it, so that the right edges line up.
+            RowLayout {
                 objectName: "codeBoxes"
+                Layout.fillWidth: true
                 spacing: 6
                 Repeater {
                     // By position, so repeated digits are boxes of their own.
@@ -56,8 +58,9 @@ ColumnLayout {
                     delegate: Rectangle {
                         id: box
                         required property int index
-                        width: 32
-                        height: 40
+                        Layout.fillWidth: true
+                        Layout.preferredWidth: 32
+                        Layout.preferredHeight: 40
                         radius: 6
                         color: Theme.controlBackground
                         Text {

@@ -85,6 +85,7 @@ Item {
                 InstructionStep { number: 2; text: "Tap \"Add Mac\"" }
                 InstructionStep { number: 3; text: "Enter this code:" }
                 Row {
+                    id: codeRow
                     objectName: "onboardingCode"
                     spacing: 12
                     Repeater {
@@ -108,16 +109,17 @@ Item {
                         }
                     }
                 }
+                // Under the code it belongs to.
+                Text {
+                    textFormat: Text.PlainText
+                    objectName: "expiresText"
+                    x: (codeRow.width - width) / 2
+                    text: "Expires in " + countdown.text
+                    font.pixelSize: 13
+                    font.weight: countdown.urgent ? Font.Medium : Font.Normal
+                    color: countdown.urgent ? Theme.orange : Theme.textSecondary
+                }
             }
-        }
-        Text {
-            textFormat: Text.PlainText
-            objectName: "expiresText"
-            Layout.alignment: Qt.AlignHCenter
-            text: "Expires in " + countdown.text
-            font.pixelSize: 13
-            font.weight: countdown.urgent ? Font.Medium : Font.Normal
-            color: countdown.urgent ? Theme.orange : Theme.textSecondary
         }
         Text {
             objectName: "onboardingGuessingText"

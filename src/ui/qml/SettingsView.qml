@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import QuivraMac.Ui
 
 // Three tabs, General, Logs and Devices; the window decides which one it opens on.
 ThemedSurface {
@@ -9,6 +10,12 @@ ThemedSurface {
     property alias selectedTab: tabs.currentIndex
     implicitWidth: 500
     implicitHeight: 400
+    // What the last request asked for: a tab, and maybe the install steps over General.
+    function takeRequest() {
+        selectedTab = Ui.takeSettingsTab()
+        if (Ui.takeInstallSteps())
+            general.installLink.showSteps()
+    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -55,7 +62,7 @@ ThemedSurface {
             currentIndex: tabs.currentIndex
             Layout.fillWidth: true
             Layout.fillHeight: true
-            GeneralTab {}
+            GeneralTab { id: general }
             LogsTab {}
             DevicesTab {}
         }

@@ -13,12 +13,12 @@ Window {
     maximumHeight: 400
     color: Theme.background
     // A window opened anew starts on the tab it was asked for, General unless said otherwise.
-    onVisibleChanged: if (visible) view.selectedTab = Ui.takeSettingsTab()
+    onVisibleChanged: if (visible) view.takeRequest()
     Connections {
         target: Ui
         function onSettingsTabRequested() {
             if (window.visible)
-                view.selectedTab = Ui.takeSettingsTab()
+                view.takeRequest()
         }
     }
     SettingsView {

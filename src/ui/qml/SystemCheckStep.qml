@@ -34,7 +34,7 @@ Item {
                     radius: width / 2
                     color: "transparent"
                     border.width: 2
-                    border.color: Theme.withAlpha(Theme.textSecondary, 0.3)
+                    border.color: Theme.switchOff // 3:1, as a control must be
                 }
             }
             Mark {
@@ -93,19 +93,54 @@ Item {
                     color: Theme.text
                 }
             }
+            CommandField {
+                objectName: "failureCommand"
+                width: parent.width
+                visible: SystemCheck.failedCommand !== ""
+                command: SystemCheck.failedCommand
+            }
             InstallLink { visible: Ui.etserverMissing }
-            AskClaudeCard { width: parent.width; prompt: SystemCheck.failedPrompt }
-            AbstractButton {
-                id: retryButton
-                text: "Try Again"
-                Accessible.name: text
-                onClicked: card.retry()
-                contentItem: Row {
-                    spacing: 6
-                    SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
-                    Text { textFormat: Text.PlainText; text: "Try Again"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.accentColor }
+            Row {
+                spacing: 20
+                AbstractButton {
+                    id: fixButton
+                    objectName: "fixButton"
+                    visible: SystemCheck.failedCanFix
+                    text: "Fix"
+                    Accessible.name: text
+                    onClicked: SystemCheck.fix()
+                    implicitWidth: fixLabel.implicitWidth + 32
+                    implicitHeight: fixLabel.implicitHeight + 14
+                    background: Rectangle {
+                        radius: 8
+                        color: Theme.accentFill
+                        opacity: fixButton.down ? 0.8 : 1
+                    }
+                    contentItem: Text {
+                        id: fixLabel
+                        textFormat: Text.PlainText
+                        text: fixButton.text
+                        font.pixelSize: 14
+                        font.weight: Font.Medium
+                        color: "#ffffff"
+                        horizontalAlignment: Text.AlignHCenter
+                        verticalAlignment: Text.AlignVCenter
+                    }
+                }
+                AbstractButton {
+                    id: retryButton
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: "Try Again"
+                    Accessible.name: text
+                    onClicked: card.retry()
+                    contentItem: Row {
+                        spacing: 6
+                        SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
+                        Text { textFormat: Text.PlainText; text: "Try Again"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.accentColor }
+                    }
                 }
             }
+            AskClaudeCard { width: parent.width; prompt: SystemCheck.failedPrompt }
         }
     }
 

@@ -18,8 +18,9 @@ QtObject {
     readonly property color accentFill: dark ? "#0b6bd6" : "#0060c7"
     readonly property color redFill: dark ? "#d92c20" : "#d70015"
 
-    readonly property color green: dark ? "#30d158" : "#28cd41"
-    readonly property color gray: dark ? "#8e8e93" : "#8e8e93"
+    // Marks and dots at 3:1 or more on the background and the card, as controls must be.
+    readonly property color green: dark ? "#30d158" : "#1f8a3a"
+    readonly property color gray: dark ? "#8e8e93" : "#848489"
     readonly property color orange: dark ? "#ff9f0a" : "#c93400"
     readonly property color red: dark ? "#ff6961" : "#d70015"
     readonly property color yellow: dark ? "#ffd60a" : "#ffcc00"

@@ -113,6 +113,17 @@ void UiController::openSettings(SettingsTab tab)
     Q_EMIT windowRequested(QStringLiteral("settings"));
 }
 
+void UiController::openInstallSteps()
+{
+    m_installSteps = true;
+    openSettings(GeneralTab);
+}
+
+bool UiController::takeInstallSteps()
+{
+    return std::exchange(m_installSteps, false);
+}
+
 void UiController::quit()
 {
     // The normal quit path: aboutToQuit stops the server.

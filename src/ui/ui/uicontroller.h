@@ -51,6 +51,11 @@ public:
     // The tab asked for by the last openSettings, once: the settings window takes it when it
     // shows, so that a window opened any other way (the tray menu, quivractl) starts on General.
     Q_INVOKABLE int takeSettingsTab();
+    // The settings window with the steps to install Eternal Terminal over it: the panel closes
+    // as soon as it loses focus, so they cannot be a sheet of its own.
+    Q_INVOKABLE void openInstallSteps();
+    // Whether the last request asked for those steps, once, as takeSettingsTab.
+    Q_INVOKABLE bool takeInstallSteps();
     Q_INVOKABLE void quit();
     Q_INVOKABLE void copyText(const QString &text);
     Q_INVOKABLE QString uptimeText(double seconds) const;
@@ -71,4 +76,5 @@ private:
     QPointer<ServerManager> m_serverManager;
     DeviceList m_devices;
     int m_settingsTab = GeneralTab;
+    bool m_installSteps = false;
 };

@@ -18,7 +18,6 @@ const QHash<QString, QString> sources {
     { QStringLiteral("panel"), QStringLiteral("qrc:/QuivraMac/Ui/PanelWindow.qml") },
     { QStringLiteral("onboarding"), QStringLiteral("qrc:/QuivraMac/Ui/SetupWindow.qml") },
     { QStringLiteral("settings"), QStringLiteral("qrc:/QuivraMac/Ui/SettingsWindow.qml") },
-    { QStringLiteral("installEt"), QStringLiteral("qrc:/QuivraMac/Ui/InstallEtWindow.qml") },
 };
 }
 
