@@ -51,6 +51,15 @@ QList<SystemCheck::State> states(const SystemCheck &check)
     return result;
 }
 
+bool isAncestorOf(const QQuickItem *ancestor, const QQuickItem *item)
+{
+    for (; item; item = item->parentItem()) {
+        if (item == ancestor)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 class TestOnboarding : public QObject
@@ -142,6 +151,9 @@ private Q_SLOTS:
         QTRY_COMPARE(h().shownCode("onboardingCode"), h().manager().pairingToken());
     }
 
+    // As the desktop's own dialogs: focus on the default button, Space for the focused control
+    // only, Return for the default action even mid-slide, Escape as Back where there is one, and
+    // a sheet that keeps the keyboard until it closes. Nothing closes the window on the way.
     void keyboardAloneReachesSuccessWithARealPhone()
     {
         h().onboarding().appear();
@@ -149,27 +161,51 @@ private Q_SLOTS:
         QQuickWindow *window = h().window();
         window->requestActivate();
         QTRY_VERIFY(QGuiApplication::focusWindow() == window);
+        QSignalSpy dismissed(&h().onboarding(), &Flow::dismiss);
+        QObject *stack = h().find<QObject>("onboardingStack");
         const auto press = [&](Qt::Key key) {
-            QObject *stack = h().find<QObject>("onboardingStack");
             QTRY_VERIFY(!stack->property("busy").toBool());
             QTest::keyClick(window, key);
         };
-        press(Qt::Key_Return);
+        press(Qt::Key_Space);
         QCOMPARE(h().onboarding().step(), Flow::Explanation);
         press(Qt::Key_Escape);
         QCOMPARE(h().onboarding().step(), Flow::Welcome);
+        // The second Return comes while the first one's slide still runs.
         press(Qt::Key_Return);
-        press(Qt::Key_Return);
+        QTest::keyClick(window, Qt::Key_Return);
         QCOMPARE(h().onboarding().step(), Flow::SystemCheck);
-        // Escape is "Back" on the explanation screen only: nowhere else is it a cancel action.
         press(Qt::Key_Escape);
-        QCOMPARE(h().onboarding().step(), Flow::SystemCheck);
+        QCOMPARE(h().onboarding().step(), Flow::Explanation);
+        press(Qt::Key_Return);
         runChecks(h().systemCheck());
         QVERIFY(h().systemCheck().allPassed());
         press(Qt::Key_Return);
         QCOMPARE(h().onboarding().step(), Flow::Pairing);
+
+        // The manual-setup sheet: reached with Tab, opened with Space, Tab stays inside it,
+        // Escape closes it alone and gives the focus back.
+        QTRY_VERIFY(!stack->property("busy").toBool());
+        auto *link = h().find<QQuickItem>("manualSetupLink");
+        QTRY_VERIFY(link->hasActiveFocus());
+        press(Qt::Key_Tab);
+        press(Qt::Key_Backtab);
+        QVERIFY(link->hasActiveFocus());
+        press(Qt::Key_Space);
+        auto *sheet = h().find<QObject>("manualSetupSheet");
+        QTRY_VERIFY(sheet->property("opened").toBool());
+        for (int i = 0; i < 3; ++i) {
+            press(Qt::Key_Tab);
+            QVERIFY(isAncestorOf(sheet->property("contentItem").value<QQuickItem *>(),
+                                 window->activeFocusItem()));
+            QVERIFY(window->activeFocusItem()->property("visualFocus").toBool()); // its ring
+        }
         press(Qt::Key_Escape);
+        QTRY_VERIFY(!sheet->property("visible").toBool());
+        QVERIFY(link->hasActiveFocus());
+        press(Qt::Key_Escape); // no Back while the code waits for the phone
         QCOMPARE(h().onboarding().step(), Flow::Pairing);
+        QCOMPARE(dismissed.count(), 0);
 
         const QByteArray key = testsupport::ed25519Key();
         const QByteArray request = "POST /pair?token=" + h().onboarding().code().toLatin1()
@@ -183,7 +219,6 @@ private Q_SLOTS:
         QVERIFY(h().app().hasCompletedOnboarding());
 
         // Showing the window again puts the first screen up at once, with no transition.
-        QObject *stack = h().find<QObject>("onboardingStack");
         QTRY_VERIFY(!stack->property("busy").toBool());
         QMetaObject::invokeMethod(h().view(), "restart");
         QCOMPARE(h().onboarding().step(), Flow::Welcome);

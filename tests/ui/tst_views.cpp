@@ -194,6 +194,15 @@ private Q_SLOTS:
         click("cancelRevoke");
         QVERIFY(!h().find<QQuickItem>("confirmRevoke")->isVisible());
         QCOMPARE(h().manager().phones().devices().devices().size(), 1);
+        // From the keyboard: the confirmation takes the focus on Cancel, Escape cancels it.
+        h().window()->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(h().window()));
+        click("revokeButton");
+        QTRY_VERIFY(h().find<QQuickItem>("cancelRevoke")->hasActiveFocus());
+        QTest::keyClick(h().window(), Qt::Key_Escape);
+        QVERIFY(!h().find<QQuickItem>("confirmRevoke")->isVisible());
+        QVERIFY(h().find<QQuickItem>("revokeButton")->hasActiveFocus());
+        QCOMPARE(h().manager().phones().devices().devices().size(), 1);
 
         click("revokeButton");
         click("confirmRevoke");

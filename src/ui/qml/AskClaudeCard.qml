@@ -47,6 +47,7 @@ Rectangle {
             Accessible.name: text
             implicitHeight: 38
             onClicked: model.copy()
+            FocusRing {}
             background: Rectangle {
                 radius: 8
                 color: Theme.withAlpha(model.copied ? Theme.green : Theme.accentColor, 0.1)

@@ -16,6 +16,14 @@ Item {
     signal cancel()
     signal confirm()
 
+    // The confirmation takes the keyboard, on its safe choice; Escape is Cancel.
+    onConfirmingChanged: confirming ? cancelButton.forceActiveFocus() : revokeButton.forceActiveFocus()
+    Shortcut {
+        sequence: "Escape"
+        enabled: row.confirming
+        onActivated: row.cancel()
+    }
+
     implicitHeight: content.implicitHeight + 24
 
     Rectangle {
@@ -46,6 +54,7 @@ Item {
                 color: Theme.text
             }
             LinkButton {
+                id: revokeButton
                 objectName: "revokeButton"
                 visible: !row.confirming
                 text: "Revoke..."
@@ -63,6 +72,7 @@ Item {
                 ToolTip.visible: hovered
                 ToolTip.text: row.fingerprint
                 ToolTip.delay: 500
+                FocusRing {}
                 contentItem: Text {
                     textFormat: Text.PlainText
                     text: fingerprintLabel.text
@@ -89,7 +99,7 @@ Item {
             }
             RowLayout {
                 spacing: 8
-                Button { objectName: "cancelRevoke"; text: "Cancel"; onClicked: row.cancel() }
+                Button { id: cancelButton; objectName: "cancelRevoke"; text: "Cancel"; onClicked: row.cancel() }
                 Button {
                     objectName: "confirmRevoke"
                     text: "Revoke"

@@ -1,9 +1,15 @@
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import QuivraMac.Ui
 
 Item {
     id: step
+    // The screen coming in answers keys from the start of its slide, the one leaving no more:
+    // two screens answering the same key would make Qt fire neither.
+    readonly property bool arrived: StackView.status === StackView.Active
+                                    || StackView.status === StackView.Activating
+    property Item defaultButton: continueButton
     signal continueClicked()
     signal backClicked()
 
@@ -69,12 +75,12 @@ Item {
 
     Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: step.visible
+        enabled: step.arrived
         onActivated: step.continueClicked()
     }
     Shortcut {
         sequence: "Escape"
-        enabled: step.visible
+        enabled: step.arrived
         onActivated: step.backClicked()
     }
     ColumnLayout {
@@ -114,7 +120,7 @@ Item {
             Layout.alignment: Qt.AlignHCenter
             spacing: 12
             OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
-            OnboardingButton { title: "Continue"; onClicked: step.continueClicked() }
+            OnboardingButton { id: continueButton; title: "Continue"; onClicked: step.continueClicked() }
         }
     }
 }

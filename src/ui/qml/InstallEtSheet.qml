@@ -7,6 +7,7 @@ ThemedSurface {
     id: sheet
     objectName: "installEtSheet"
     signal done()
+    property alias doneButton: doneButton
     readonly property string command: Wording.etserverInstallCommand
     readonly property string downloadPage: "https://eternalterminal.dev/download/"
     implicitWidth: 460
@@ -47,6 +48,7 @@ ThemedSurface {
             color: Theme.text
         }
         CommandField {
+            id: installCommand
             objectName: "installCommand"
             visible: sheet.command !== ""
             Layout.fillWidth: true
@@ -64,16 +66,20 @@ ThemedSurface {
             Layout.topMargin: 6
             Layout.fillWidth: true
             Button {
+                id: openDownloadPage
                 objectName: "openDownloadPage"
                 text: "Open Download Page"
                 onClicked: Qt.openUrlExternally(sheet.downloadPage)
             }
             Item { Layout.fillWidth: true }
             Button {
+                id: doneButton
                 objectName: "installDone"
                 text: "Done"
                 highlighted: true
                 onClicked: sheet.done()
+                // Tab goes round the sheet's own controls while it is open.
+                KeyNavigation.tab: sheet.command !== "" ? installCommand.copyButton : openDownloadPage
             }
         }
     }

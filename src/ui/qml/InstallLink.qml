@@ -20,6 +20,8 @@ LinkButton {
         dim: true
         focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+        onOpened: steps.doneButton.forceActiveFocus()
+        onClosed: link.forceActiveFocus()
         anchors.centerIn: parent
         width: Math.min(460, parent ? parent.width - 24 : 460)
         height: Math.min(steps.implicitHeight, parent ? parent.height - 24 : steps.implicitHeight)

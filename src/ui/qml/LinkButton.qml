@@ -8,6 +8,7 @@ AbstractButton {
     property int pixelSize: 12
     Accessible.name: text
     hoverEnabled: true
+    FocusRing { anchors.margins: -2; radius: 3 }
     contentItem: Text {
         textFormat: Text.PlainText
         text: link.text

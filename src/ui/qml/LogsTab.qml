@@ -27,6 +27,7 @@ ColumnLayout {
             Accessible.name: text
             contentItem: Text { textFormat: Text.PlainText; text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
             onClicked: Ui.clearLogs()
+            FocusRing {}
         }
         AbstractButton {
             objectName: "copyButton"
@@ -35,6 +36,7 @@ ColumnLayout {
             Layout.leftMargin: 12
             contentItem: Text { textFormat: Text.PlainText; text: "Copy"; font.pixelSize: 13; color: Theme.accentColor }
             onClicked: Ui.copyText(ServerManager.logs)
+            FocusRing {}
         }
     }
     Rectangle {

@@ -21,6 +21,7 @@ AbstractButton {
     topPadding: 6
     bottomPadding: 6
 
+    FocusRing { anchors.margins: 0; radius: 4 }
     background: Rectangle {
         radius: 4
         color: row.isHovered ? Theme.withAlpha(Theme.text, 0.1) : "transparent"

@@ -19,6 +19,7 @@ AbstractButton {
         verticalAlignment: Text.AlignVCenter
         color: button.primary ? Theme.background : Theme.text
     }
+    FocusRing {}
     background: Rectangle {
         radius: 8
         color: button.primary ? Theme.text : Theme.card

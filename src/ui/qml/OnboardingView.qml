@@ -34,6 +34,22 @@ ThemedSurface {
             }
         }
     }
+    // The keyboard starts on each screen's default button, so that Space and Return act there
+    // and nowhere else (not on a control of the window around it).
+    function focusDefault() {
+        const screen = stack.currentItem
+        if (screen && screen.defaultButton)
+            screen.defaultButton.forceActiveFocus()
+    }
+    Connections {
+        target: stack
+        function onCurrentItemChanged() { Qt.callLater(view.focusDefault) }
+    }
+    Connections {
+        target: stack.currentItem
+        ignoreUnknownSignals: true
+        function onDefaultButtonChanged() { view.focusDefault() }
+    }
     // Each showing of the window starts again at the first screen, at once.
     function restart() {
         resetting = true

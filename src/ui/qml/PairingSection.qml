@@ -92,6 +92,7 @@ ColumnLayout {
                     color: Theme.textSecondary
                 }
                 onClicked: ServerManager.togglePairingMode()
+                FocusRing {}
             }
         }
     }

@@ -6,8 +6,19 @@ import QuivraMac.Ui
 // The code to type on the phone with its countdown, a phone that is connecting, or a failure.
 Item {
     id: step
+    // The screen coming in answers keys from the start of its slide, the one leaving no more:
+    // two screens answering the same key would make Qt fire neither.
+    readonly property bool arrived: StackView.status === StackView.Active
+                                    || StackView.status === StackView.Activating
     signal backClicked()
     signal retry()
+    property Item defaultButton: Onboarding.pairingKind === Onboarding.Error ? retryButton : manualLink
+
+    Shortcut {
+        sequence: "Escape"
+        enabled: step.arrived && Onboarding.pairingKind === Onboarding.Error
+        onActivated: step.backClicked()
+    }
 
     component InstructionStep: Row {
         id: instruction
@@ -138,9 +149,12 @@ Item {
             spacing: 6
             Text { textFormat: Text.PlainText; text: "Having trouble?"; font.pixelSize: 13; color: Theme.textSecondary }
             AbstractButton {
+                id: manualLink
+                objectName: "manualSetupLink"
                 text: "Try manual setup"
                 Accessible.name: text
                 onClicked: manual.open()
+                FocusRing { anchors.margins: -2; radius: 3 }
                 contentItem: Text { textFormat: Text.PlainText; text: "Try manual setup"; font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
             }
         }
@@ -181,16 +195,22 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
             OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
-            OnboardingButton { title: "Try Again"; onClicked: step.retry() }
+            OnboardingButton { id: retryButton; title: "Try Again"; onClicked: step.retry() }
         }
     }
 
     // What a person needs to add this computer in the phone app by hand.
+    // Focus goes in with it, Tab keeps it there, and it comes back to the link when it closes.
     Popup {
         id: manual
+        objectName: "manualSetupSheet"
         anchors.centerIn: parent
         modal: true
+        focus: true
+        closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
         padding: 20
+        onOpened: closeButton.forceActiveFocus()
+        onClosed: manualLink.forceActiveFocus()
         background: Rectangle { radius: 12; color: Theme.card }
         contentItem: Column {
             spacing: 12
@@ -198,8 +218,22 @@ Item {
             Text { textFormat: Text.PlainText; text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
-                OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(Ui.manualSetupDetails) }
-                OnboardingButton { title: "Close"; onClicked: manual.close() }
+                OnboardingButton {
+                    id: copyButton
+                    title: "Copy"
+                    primary: false
+                    onClicked: Ui.copyText(Ui.manualSetupDetails)
+                    KeyNavigation.tab: closeButton
+                    KeyNavigation.backtab: closeButton
+                }
+                OnboardingButton {
+                    id: closeButton
+                    objectName: "manualSetupClose"
+                    title: "Close"
+                    onClicked: manual.close()
+                    KeyNavigation.tab: copyButton
+                    KeyNavigation.backtab: copyButton
+                }
             }
         }
     }

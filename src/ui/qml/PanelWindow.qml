@@ -31,6 +31,10 @@ Window {
         interval: 1000
         onTriggered: window.staleFocusLoss = false
     }
+    Shortcut {
+        sequence: "Escape"
+        onActivated: window.popover ? window.hide() : window.close()
+    }
     MenuBarView {
         id: view
         anchors.fill: parent

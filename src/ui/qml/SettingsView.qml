@@ -51,6 +51,7 @@ ThemedSurface {
                             color: tabs.currentIndex === tab.index ? Theme.accentColor : Theme.textSecondary
                         }
                     }
+                    FocusRing { anchors.margins: 0 }
                     background: Rectangle {
                         radius: 6
                         color: tabs.currentIndex === tab.index ? Theme.withAlpha(Theme.text, 0.08) : "transparent"

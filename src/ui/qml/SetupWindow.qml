@@ -41,6 +41,7 @@ Window {
             height: 14
             Accessible.name: "Close"
             onClicked: window.close()
+            FocusRing {}
             background: Rectangle {
                 radius: width / 2
                 color: closeButton.hovered ? Theme.red : Theme.withAlpha(Theme.textSecondary, 0.35)

@@ -5,6 +5,11 @@ import QuivraMac.Ui
 
 Item {
     id: step
+    // The screen coming in answers keys from the start of its slide, the one leaving no more:
+    // two screens answering the same key would make Qt fire neither.
+    readonly property bool arrived: StackView.status === StackView.Active
+                                    || StackView.status === StackView.Activating
+    property Item defaultButton: doneButton
     signal done()
     property real checkmarkScale: 0.5
     property real checkmarkOpacity: 0
@@ -40,7 +45,7 @@ Item {
 
     Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: step.visible
+        enabled: step.arrived
         onActivated: step.done()
     }
     ColumnLayout {
@@ -77,7 +82,7 @@ Item {
             }
             Text { textFormat: Text.PlainText; anchors.verticalCenter: parent.verticalCenter; text: "Recommended"; font.pixelSize: 12; color: Theme.textSecondary }
         }
-        OnboardingButton { Layout.alignment: Qt.AlignHCenter; title: "Done"; onClicked: step.done() }
+        OnboardingButton { id: doneButton; Layout.alignment: Qt.AlignHCenter; title: "Done"; onClicked: step.done() }
     }
     ParallelAnimation {
         running: true

@@ -6,6 +6,11 @@ import QuivraMac.Ui
 // Four checks one after another; at the first failure a card explains it and offers help.
 Item {
     id: step
+    // The screen coming in answers keys from the start of its slide, the one leaving no more:
+    // two screens answering the same key would make Qt fire neither.
+    readonly property bool arrived: StackView.status === StackView.Active
+                                    || StackView.status === StackView.Activating
+    property Item defaultButton: bottomButton
     signal allPassedContinue()
     signal backClicked()
 
@@ -109,6 +114,7 @@ Item {
                     text: "Fix"
                     Accessible.name: text
                     onClicked: SystemCheck.fix()
+                    FocusRing {}
                     implicitWidth: fixLabel.implicitWidth + 32
                     implicitHeight: fixLabel.implicitHeight + 14
                     background: Rectangle {
@@ -133,6 +139,7 @@ Item {
                     text: "Try Again"
                     Accessible.name: text
                     onClicked: card.retry()
+                    FocusRing {}
                     contentItem: Row {
                         spacing: 6
                         SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
@@ -146,8 +153,13 @@ Item {
 
     Component.onCompleted: SystemCheck.appear()
     Shortcut {
+        sequence: "Escape"
+        enabled: step.arrived
+        onActivated: step.backClicked()
+    }
+    Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: step.visible && SystemCheck.allPassed
+        enabled: step.arrived && SystemCheck.allPassed
         onActivated: step.allPassedContinue()
     }
 
@@ -203,6 +215,7 @@ Item {
         }
     }
     OnboardingButton {
+        id: bottomButton
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24

@@ -14,6 +14,7 @@ Switch {
         y: control.topPadding + (control.availableHeight - height) / 2
         radius: height / 2
         color: control.checked ? Theme.accentFill : Theme.switchOff
+        FocusRing { control: control; radius: height / 2 }
         Rectangle {
             x: control.checked ? parent.width - width - 2 : 2
             y: 2

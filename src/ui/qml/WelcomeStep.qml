@@ -1,16 +1,23 @@
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import QuivraMac.Ui
 
 Item {
     id: step
+    // The screen coming in answers keys from the start of its slide, the one leaving no more:
+    // two screens answering the same key would make Qt fire neither.
+    readonly property bool arrived: StackView.status === StackView.Active
+                                    || StackView.status === StackView.Activating
     signal continueClicked()
+    // Where the keyboard starts on this screen.
+    property Item defaultButton: continueButton
     property real iconScale: 0.8
     property real iconOpacity: 0
 
     Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: step.visible
+        enabled: step.arrived
         onActivated: step.continueClicked()
     }
     ColumnLayout {
@@ -60,6 +67,7 @@ Item {
             color: Theme.textSecondary
         }
         OnboardingButton {
+            id: continueButton
             Layout.topMargin: 48
             Layout.alignment: Qt.AlignHCenter
             title: "Continue"
