@@ -23,6 +23,8 @@ ColumnLayout {
         Layout.leftMargin: 16
         Layout.topMargin: 16
         text: "Paired Devices"
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
         font.pixelSize: 15
         font.weight: Font.DemiBold
         color: Theme.text

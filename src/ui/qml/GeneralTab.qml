@@ -76,6 +76,8 @@ ScrollView {
                     height: 8
                     radius: 4
                     color: ServerManager.isRunning ? Theme.green : Theme.gray
+                    Accessible.role: Accessible.Graphic
+                    Accessible.name: ServerManager.isRunning ? "Server running" : "Server stopped"
                 }
                 Text {
                     textFormat: Text.PlainText

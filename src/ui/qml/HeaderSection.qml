@@ -12,6 +12,8 @@ RowLayout {
     spacing: 8
     Rectangle {
         objectName: "statusDot"
+        Accessible.role: Accessible.Graphic
+        Accessible.name: header.isRunning ? "Server running on port " + header.port : "Server off"
         width: 8
         height: 8
         radius: 4

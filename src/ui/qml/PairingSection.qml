@@ -41,6 +41,8 @@ ColumnLayout {
                 Text {
                     textFormat: Text.PlainText
                     objectName: "countdownText"
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: "Time left: " + countdown.text
                     text: countdown.text
                     font.pixelSize: 11
                     font.family: Theme.monospace
@@ -51,6 +53,9 @@ ColumnLayout {
             RowLayout {
                 objectName: "codeBoxes"
                 Layout.fillWidth: true
+                // One six-digit number to a screen reader, not six boxes.
+                Accessible.role: Accessible.StaticText
+                Accessible.name: "Pairing code " + ServerManager.pairingToken
                 spacing: 6
                 Repeater {
                     // By position, so repeated digits are boxes of their own.

@@ -98,6 +98,8 @@ Item {
                 Row {
                     id: codeRow
                     objectName: "onboardingCode"
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: "Pairing code " + Onboarding.code
                     spacing: 12
                     Repeater {
                         model: Onboarding.code.length
@@ -124,6 +126,8 @@ Item {
                 Text {
                     textFormat: Text.PlainText
                     objectName: "expiresText"
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                     x: (codeRow.width - width) / 2
                     text: "Expires in " + countdown.text
                     font.pixelSize: 13

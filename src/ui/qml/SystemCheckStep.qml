@@ -28,6 +28,10 @@ Item {
         id: row
         property var item
         spacing: 12
+        // Read as one line: the check and how it went.
+        Accessible.role: Accessible.ListItem
+        Accessible.name: item.name + ": " + [qsTr("waiting"), qsTr("checking"), item.successMessage,
+                                              qsTr("failed")][item.state]
         Item {
             width: 24
             height: 24
@@ -89,6 +93,8 @@ Item {
                 Text {
                     textFormat: Text.PlainText
                     objectName: "failureMessage"
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                     // A distribution's install command makes this a sentence or two.
                     width: cardContent.width - 28
                     wrapMode: Text.Wrap
