@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQmlProperty>
 #include <QTcpSocket>
 
 // What each view shows for each state of the one ServerManager.
@@ -23,6 +24,27 @@ class TestViews : public QObject
     void click(const QString &objectName)
     {
         QMetaObject::invokeMethod(h().find<QObject>(objectName), "clicked");
+    }
+
+    // The names of the controls Tab visits from the first, once round, in order.
+    QStringList tabRound()
+    {
+        QQuickWindow *window = h().window();
+        window->requestActivate();
+        if (!QTest::qWaitForWindowActive(window))
+            return {};
+        QStringList names;
+        for (int i = 0; i < 40; ++i) {
+            QTest::keyClick(window, Qt::Key_Tab);
+            QQuickItem *focused = window->activeFocusItem();
+            const QString name = focused
+                ? QQmlProperty(focused, "Accessible.name", qmlContext(focused)).read().toString()
+                : QString();
+            if (!names.isEmpty() && name == names.constFirst())
+                break;
+            names.append(name);
+        }
+        return names;
     }
 
 private Q_SLOTS:
@@ -167,6 +189,19 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(h().window()));
         QTest::keyClick(h().window(), Qt::Key_Escape);
         QTRY_VERIFY(!h().find<QQuickItem>("installEtSheet")->isVisible());
+    }
+
+    // Tab visits every control once, in reading order, links and switches included.
+    void tabReachesEveryControlInReadingOrder()
+    {
+        h().show("MenuBarView");
+        QCOMPARE(tabRound(),
+                 (QStringList { "Server", "Pair New Device", "Setup Assistant...", "Settings...",
+                                "Quit QuivraMac" }));
+        h().show("SettingsView");
+        QCOMPARE(tabRound(),
+                 (QStringList { "General", "Logs", "Devices", "Start server automatically",
+                                "Start Server" }));
     }
 
     void pairedPhonesAreListedAndRevokedWithConfirmation()
