@@ -252,6 +252,17 @@ int main(int argc, char *argv[])
           "MenuBarView",
           [](QmlHarness &h) { guessAt(h, 2); },
           { 280, 0 } },
+        { "panel-keyboard-focus",
+          "MenuBarView",
+          [](QmlHarness &h) {
+              // The ring where the keyboard is: Tab twice, to "Pair New Device".
+              h.window()->requestActivate();
+              if (!QTest::qWaitForWindowActive(h.window()))
+                  qWarning("the panel did not become active");
+              QTest::keyClick(h.window(), Qt::Key_Tab);
+              QTest::keyClick(h.window(), Qt::Key_Tab);
+          },
+          { 280, 0 } },
         { "settings-general-running",
           "SettingsView",
           [](QmlHarness &h) { setRunning(h, true); },
