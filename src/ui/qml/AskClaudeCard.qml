@@ -52,27 +52,23 @@ Rectangle {
                 radius: 8
                 color: Theme.withAlpha(model.copied ? Theme.green : Theme.accentColor, 0.1)
             }
-            // Centred as a whole: the row's own width would otherwise feed its padding.
-            contentItem: Item {
-                implicitHeight: copyRow.implicitHeight
-                Row {
-                    id: copyRow
-                    anchors.centerIn: parent
-                    spacing: 6
-                    SymbolImage {
-                        anchors.verticalCenter: parent.verticalCenter
-                        name: model.copied ? "checkmark" : "doc.on.doc"
-                        size: 12
-                        color: model.copied ? Theme.green : Theme.accentColor
-                    }
-                    Text {
-                        textFormat: Text.PlainText
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: model.copied ? "Copied!" : "Copy to Clipboard"
-                        font.pixelSize: 13
-                        font.weight: Font.Medium
-                        color: model.copied ? Theme.green : Theme.accentColor
-                    }
+            // Centred by the button's padding, worked out from its width, not from the row's.
+            leftPadding: Math.max(0, (width - implicitContentWidth) / 2)
+            contentItem: Row {
+                spacing: 6
+                SymbolImage {
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: model.copied ? "checkmark" : "doc.on.doc"
+                    size: 12
+                    color: model.copied ? Theme.green : Theme.accentColor
+                }
+                Text {
+                    textFormat: Text.PlainText
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: model.copied ? "Copied!" : "Copy to Clipboard"
+                    font.pixelSize: 13
+                    font.weight: Font.Medium
+                    color: model.copied ? Theme.green : Theme.accentColor
                 }
             }
         }

@@ -24,6 +24,8 @@ RowLayout {
             width: parent.width - 16
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
+            // Set, not implicit: see PairingSection's guessing line.
+            horizontalAlignment: TextEdit.AlignLeft
             readOnly: true
             selectByMouse: true
             selectByKeyboard: true

@@ -17,7 +17,10 @@ Item {
     signal confirm()
 
     // The confirmation takes the keyboard, on its safe choice; Escape is Cancel.
-    onConfirmingChanged: confirming ? cancelButton.forceActiveFocus() : revokeButton.forceActiveFocus()
+    onConfirmingChanged: {
+        if (Ui.canMoveFocus)
+            confirming ? cancelButton.forceActiveFocus() : revokeButton.forceActiveFocus()
+    }
     Shortcut {
         sequence: "Escape"
         enabled: row.confirming

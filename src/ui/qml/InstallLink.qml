@@ -20,8 +20,8 @@ LinkButton {
         dim: true
         focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
-        onOpened: steps.doneButton.forceActiveFocus()
-        onClosed: link.forceActiveFocus()
+        onOpened: if (Ui.canMoveFocus) steps.doneButton.forceActiveFocus()
+        onClosed: if (Ui.canMoveFocus) link.forceActiveFocus()
         anchors.centerIn: parent
         width: Math.min(460, parent ? parent.width - 24 : 460)
         height: Math.min(steps.implicitHeight, parent ? parent.height - 24 : steps.implicitHeight)
@@ -33,11 +33,13 @@ LinkButton {
             border.color: Theme.separator
         }
         Overlay.modal: Rectangle { color: Theme.withAlpha("#000000", Theme.dark ? 0.5 : 0.3) }
-        contentItem: Flickable {
+        Flickable {
+            id: flick
+            anchors.fill: parent
             clip: true
             contentHeight: steps.implicitHeight
             boundsBehavior: Flickable.StopAtBounds
-            ScrollBar.vertical: ScrollBar { policy: parent.contentHeight > parent.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+            ScrollBar.vertical: ScrollBar { policy: flick.contentHeight > flick.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
             InstallEtSheet {
                 id: steps
                 width: sheet.width

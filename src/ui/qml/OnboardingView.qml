@@ -36,14 +36,22 @@ ThemedSurface {
     }
     // The keyboard starts on each screen's default button, so that Space and Return act there
     // and nowhere else (not on a control of the window around it).
+    // Untyped: each screen is a type of its own, all with a defaultButton.
+    readonly property var screen: stack.currentItem
     function focusDefault() {
-        const screen = stack.currentItem
-        if (screen && screen.defaultButton)
-            screen.defaultButton.forceActiveFocus()
+        const button = screen ? screen.defaultButton : null
+        if (button && Ui.canMoveFocus)
+            button.forceActiveFocus()
+    }
+    // Once the new screen is in place.
+    Timer {
+        id: focusLater
+        interval: 0
+        onTriggered: view.focusDefault()
     }
     Connections {
         target: stack
-        function onCurrentItemChanged() { Qt.callLater(view.focusDefault) }
+        function onCurrentItemChanged() { focusLater.restart() }
     }
     Connections {
         target: stack.currentItem

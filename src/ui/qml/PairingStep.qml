@@ -213,10 +213,10 @@ Item {
         focus: true
         closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
         padding: 20
-        onOpened: closeButton.forceActiveFocus()
-        onClosed: manualLink.forceActiveFocus()
+        onOpened: if (Ui.canMoveFocus) closeButton.forceActiveFocus()
+        onClosed: if (Ui.canMoveFocus) manualLink.forceActiveFocus()
         background: Rectangle { radius: 12; color: Theme.card }
-        contentItem: Column {
+        Column {
             spacing: 12
             Text { textFormat: Text.PlainText; text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
             Text { textFormat: Text.PlainText; text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }

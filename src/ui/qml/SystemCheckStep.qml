@@ -121,15 +121,14 @@ Item {
                     Accessible.name: text
                     onClicked: SystemCheck.fix()
                     FocusRing {}
-                    implicitWidth: fixLabel.implicitWidth + 32
-                    implicitHeight: fixLabel.implicitHeight + 14
+                    implicitWidth: implicitContentWidth + 32
+                    implicitHeight: implicitContentHeight + 14
                     background: Rectangle {
                         radius: 8
                         color: Theme.accentFill
                         opacity: fixButton.down ? 0.8 : 1
                     }
                     contentItem: Text {
-                        id: fixLabel
                         textFormat: Text.PlainText
                         text: fixButton.text
                         font.pixelSize: 14

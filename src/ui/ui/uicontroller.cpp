@@ -10,7 +10,9 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QInputDevice>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -151,4 +153,14 @@ QString UiController::deviceConnectingText(const QString &deviceName) const
 {
     return QStringLiteral("<b>") + deviceName.toHtmlEscaped()
         + QStringLiteral("</b> is connecting...");
+}
+
+bool UiController::canMoveFocus()
+{
+    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return true;
+    const auto devices = QInputDevice::devices();
+    return std::any_of(devices.begin(), devices.end(), [](const QInputDevice *device) {
+        return device->type() == QInputDevice::DeviceType::Keyboard;
+    });
 }

@@ -23,6 +23,9 @@ class UiController : public QObject
     Q_PROPERTY(DeviceList *devices READ devices CONSTANT)
     // The last start found no etserver: the views offer the steps to install it.
     Q_PROPERTY(bool etserverMissing READ etserverMissing NOTIFY etserverMissingChanged)
+    // Whether the views may move the keyboard focus themselves. Qt 6.4's Wayland client crashes
+    // on a focus change where the compositor offers no keyboard (a headless one, say).
+    Q_PROPERTY(bool canMoveFocus READ canMoveFocus CONSTANT)
 
 public:
     explicit UiController(ServerManager *serverManager, QObject *parent = nullptr);
@@ -36,6 +39,7 @@ public:
     QString manualSetupDetails() const;
     DeviceList *devices() { return &m_devices; }
     bool etserverMissing() const;
+    static bool canMoveFocus();
 
     enum SettingsTab { GeneralTab, LogsTab, DevicesTab };
     Q_ENUM(SettingsTab)
