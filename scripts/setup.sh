@@ -14,6 +14,8 @@ packages=(
     # build
     cmake ninja-build g++ pkgconf qt6-base-dev qt6-base-dev-tools libgl-dev
     libavahi-compat-libdnssd-dev qt6-declarative-dev qt6-svg-dev libxcb1-dev
+    # the translations: lupdate and lrelease, and the CMake functions that run them
+    qt6-l10n-tools qt6-tools-dev
     # the checks the test command makes: formatting and the views' lint
     clang-format qt6-declarative-dev-tools
     # the sanitizer and fuzzing build: clang with libFuzzer and the sanitizers' runtimes

@@ -48,7 +48,7 @@ Item {
             LinkButton {
                 objectName: "revokeButton"
                 visible: !row.confirming
-                text: "Revoke..."
+                text: qsTr("Revoke...")
                 color: Theme.red
                 onClicked: row.askRevoke()
             }
@@ -71,8 +71,8 @@ Item {
                     color: Theme.textSecondary
                 }
             }
-            LinkButton { text: "Copy"; onClicked: Ui.copyText(row.fingerprint) }
-            Text { textFormat: Text.PlainText; text: "Paired " + row.paired; font.pixelSize: 11; color: Theme.textSecondary }
+            LinkButton { text: qsTr("Copy"); onClicked: Ui.copyText(row.fingerprint) }
+            Text { textFormat: Text.PlainText; text: qsTr("Paired %1").arg(row.paired); font.pixelSize: 11; color: Theme.textSecondary }
         }
         ColumnLayout {
             visible: row.confirming
@@ -82,7 +82,7 @@ Item {
             Text {
                 textFormat: Text.PlainText
                 Layout.fillWidth: true
-                text: "Revoke \u201c" + row.name + "\u201d? It will no longer be able to log in to this computer."
+                text: qsTr("Revoke \u201c%1\u201d? It will no longer be able to log in to this computer.").arg(row.name)
                 wrapMode: Text.Wrap
                 font.pixelSize: 12
                 color: Theme.text
@@ -92,7 +92,7 @@ Item {
                 Button { objectName: "cancelRevoke"; text: "Cancel"; onClicked: row.cancel() }
                 Button {
                     objectName: "confirmRevoke"
-                    text: "Revoke"
+                    text: qsTr("Revoke")
                     palette.button: Theme.redFill
                     palette.buttonText: "#ffffff"
                     onClicked: row.confirm()

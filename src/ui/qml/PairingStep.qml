@@ -81,9 +81,9 @@ Item {
             Column {
                 Layout.alignment: Qt.AlignTop
                 spacing: 16
-                InstructionStep { number: 1; text: "Open Quivra on your iPhone" }
-                InstructionStep { number: 2; text: "Tap \"Add Mac\"" }
-                InstructionStep { number: 3; text: "Enter this code:" }
+                InstructionStep { number: 1; text: qsTr("Open Quivra on your iPhone") }
+                InstructionStep { number: 2; text: qsTr("Tap \"Add Mac\"") }
+                InstructionStep { number: 3; text: qsTr("Enter this code:") }
                 Row {
                     id: codeRow
                     objectName: "onboardingCode"
@@ -114,7 +114,7 @@ Item {
                     textFormat: Text.PlainText
                     objectName: "expiresText"
                     x: (codeRow.width - width) / 2
-                    text: "Expires in " + countdown.text
+                    text: qsTr("Expires in %1").arg(countdown.text)
                     font.pixelSize: 13
                     font.weight: countdown.urgent ? Font.Medium : Font.Normal
                     color: countdown.urgent ? Theme.orange : Theme.textSecondary
@@ -136,12 +136,12 @@ Item {
         Row {
             Layout.alignment: Qt.AlignHCenter
             spacing: 6
-            Text { textFormat: Text.PlainText; text: "Having trouble?"; font.pixelSize: 13; color: Theme.textSecondary }
+            Text { textFormat: Text.PlainText; text: qsTr("Having trouble?"); font.pixelSize: 13; color: Theme.textSecondary }
             AbstractButton {
-                text: "Try manual setup"
+                text: qsTr("Try manual setup")
                 Accessible.name: text
                 onClicked: manual.open()
-                contentItem: Text { textFormat: Text.PlainText; text: "Try manual setup"; font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
+                contentItem: Text { textFormat: Text.PlainText; text: qsTr("Try manual setup"); font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
             }
         }
     }
@@ -158,7 +158,7 @@ Item {
             font.pixelSize: 20
             color: Theme.text
         }
-        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: "Exchanging keys..."; font.pixelSize: 14; color: Theme.textSecondary }
+        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: qsTr("Exchanging keys..."); font.pixelSize: 14; color: Theme.textSecondary }
     }
 
     Column {
@@ -180,8 +180,8 @@ Item {
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
-            OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
-            OnboardingButton { title: "Try Again"; onClicked: step.retry() }
+            OnboardingButton { title: qsTr("Back"); primary: false; onClicked: step.backClicked() }
+            OnboardingButton { title: qsTr("Try Again"); onClicked: step.retry() }
         }
     }
 
@@ -194,12 +194,12 @@ Item {
         background: Rectangle { radius: 12; color: Theme.card }
         contentItem: Column {
             spacing: 12
-            Text { textFormat: Text.PlainText; text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: qsTr("Add this computer by hand"); font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
             Text { textFormat: Text.PlainText; text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
-                OnboardingButton { title: "Copy"; primary: false; onClicked: Ui.copyText(Ui.manualSetupDetails) }
-                OnboardingButton { title: "Close"; onClicked: manual.close() }
+                OnboardingButton { title: qsTr("Copy"); primary: false; onClicked: Ui.copyText(Ui.manualSetupDetails) }
+                OnboardingButton { title: qsTr("Close"); onClicked: manual.close() }
             }
         }
     }
