@@ -45,6 +45,10 @@
         <source>Revoke</source>
         <translation>Widerrufen</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>DevicesTab</name>
@@ -494,6 +498,13 @@ Eternal-Terminal-Port: %4</translation>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
         <translation>&lt;b&gt;%1&lt;/b&gt; verbindet sich …</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
     </message>
 </context>
 <context>

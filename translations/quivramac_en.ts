@@ -45,6 +45,10 @@
         <source>Revoke</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DevicesTab</name>
@@ -490,6 +494,13 @@ Eternal Terminal port: %4</source>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Continue</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

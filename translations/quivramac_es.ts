@@ -45,6 +45,10 @@
         <source>Revoke</source>
         <translation>Revocar</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>DevicesTab</name>
@@ -494,6 +498,13 @@ Puerto de Eternal Terminal: %4</translation>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
         <translation>&lt;b&gt;%1&lt;/b&gt; se está conectando…</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,10 @@
         <source>Revoke</source>
         <translation>Révoquer</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>DevicesTab</name>
@@ -494,6 +498,13 @@ Port Eternal Terminal : %4</translation>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
         <translation>&lt;b&gt;%1&lt;/b&gt; se connecte…</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
     </message>
 </context>
 <context>

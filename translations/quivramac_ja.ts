@@ -45,6 +45,10 @@
         <source>Revoke</source>
         <translation>取り消す</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>DevicesTab</name>
@@ -493,6 +497,13 @@ Eternal Terminal ポート: %4</translation>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
         <translation>&lt;b&gt;%1&lt;/b&gt; が接続しています…</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Continue</source>
+        <translation>続ける</translation>
     </message>
 </context>
 <context>

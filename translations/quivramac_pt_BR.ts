@@ -45,6 +45,10 @@
         <source>Revoke</source>
         <translation>Revogar</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>DevicesTab</name>
@@ -494,6 +498,13 @@ Porta do Eternal Terminal: %4</translation>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
         <translation>&lt;b&gt;%1&lt;/b&gt; está se conectando…</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
     </message>
 </context>
 <context>

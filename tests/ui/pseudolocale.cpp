@@ -87,14 +87,22 @@ int main(int argc, char *argv[])
             const bool numerus =
                 reader.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
             QString source, comment;
+            // The English plural forms where the input has them ("1 other address").
+            QStringList forms;
             while (reader.readNextStartElement()) {
-                if (reader.name() == QLatin1String("source"))
+                if (reader.name() == QLatin1String("source")) {
                     source = reader.readElementText();
-                else if (reader.name() == QLatin1String("comment"))
+                } else if (reader.name() == QLatin1String("comment")) {
                     comment = reader.readElementText();
-                else
+                } else if (numerus && reader.name() == QLatin1String("translation")) {
+                    while (reader.readNextStartElement())
+                        forms += reader.readElementText();
+                } else {
                     reader.skipCurrentElement();
+                }
             }
+            if (forms.size() != 2)
+                forms = { source, source };
             writer.writeStartElement(QStringLiteral("context"));
             writer.writeTextElement(QStringLiteral("name"), context);
             writer.writeStartElement(QStringLiteral("message"));
@@ -105,8 +113,8 @@ int main(int argc, char *argv[])
                 writer.writeTextElement(QStringLiteral("comment"), comment);
             writer.writeStartElement(QStringLiteral("translation"));
             if (numerus) {
-                writer.writeTextElement(QStringLiteral("numerusform"), pseudo(source));
-                writer.writeTextElement(QStringLiteral("numerusform"), pseudo(source));
+                for (const QString &form : forms)
+                    writer.writeTextElement(QStringLiteral("numerusform"), pseudo(form));
             } else {
                 writer.writeCharacters(pseudo(source));
             }

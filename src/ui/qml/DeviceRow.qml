@@ -89,7 +89,7 @@ Item {
             }
             RowLayout {
                 spacing: 8
-                Button { objectName: "cancelRevoke"; text: "Cancel"; onClicked: row.cancel() }
+                Button { objectName: "cancelRevoke"; text: qsTr("Cancel"); onClicked: row.cancel() }
                 Button {
                     objectName: "confirmRevoke"
                     text: qsTr("Revoke")

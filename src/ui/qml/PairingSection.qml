@@ -77,6 +77,9 @@ ColumnLayout {
             }
             Text {
                 textFormat: Text.PlainText
+                Layout.fillWidth: true
+                Layout.preferredWidth: 0
+                wrapMode: Text.Wrap
                 text: qsTr("Enter this code in Quivra on your iPhone")
                 font.pixelSize: 11
                 color: Theme.textSecondary
