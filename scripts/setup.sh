@@ -14,6 +14,8 @@ packages=(
     # build
     cmake ninja-build g++ pkgconf qt6-base-dev qt6-base-dev-tools libgl-dev
     libavahi-compat-libdnssd-dev qt6-declarative-dev qt6-svg-dev libxcb1-dev
+    # the translations: lupdate and lrelease, and the CMake functions that run them
+    qt6-l10n-tools qt6-tools-dev
     # the checks the test command makes: formatting and the views' lint
     clang-format qt6-declarative-dev-tools
     # the sanitizer and fuzzing build: clang with libFuzzer and the sanitizers' runtimes
@@ -29,6 +31,8 @@ packages=(
     weston trayer xdotool
     # the screen reader's view: the accessibility bus and a client that walks it
     at-spi2-core python3-pyatspi
+    # the Japanese screenshots: a font with its letters
+    fonts-ipafont-gothic
     # the app's own Eternal Terminal server, built from its source: its libraries, and git to
     # fetch the source where ../shared/et has none
     libsodium-dev libprotobuf-dev protobuf-compiler libutempter-dev libunwind-dev libssl-dev

@@ -4,6 +4,7 @@
 #include "controlclient.h"
 #include "pairing/pairingsession.h"
 #include "platform/quitsignals.h"
+#include "text.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -49,7 +50,7 @@ int failedCall(const ControlClient &client)
 
 QString duration(int seconds)
 {
-    return QString::asprintf("%dh %dm %ds", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    return Text::tr("%1h %2m %3s").arg(seconds / 3600).arg(seconds / 60 % 60).arg(seconds % 60);
 }
 
 } // namespace
@@ -65,8 +66,9 @@ int status(ControlClient &client, bool json)
         QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
         loop.exec();
         if (reply->error() != QNetworkReply::NoError) {
-            err() << "The status endpoint did not answer (" << reply->errorString()
-                  << "); is the server running?" << Qt::endl;
+            err() << Text::tr("The status endpoint did not answer (%1); is the server running?")
+                         .arg(reply->errorString())
+                  << Qt::endl;
             return Failed;
         }
         out() << reply->readAll() << Qt::endl;
@@ -75,14 +77,19 @@ int status(ControlClient &client, bool json)
     const bool running = client.property("isRunning").toBool();
     const QString device = client.property("lastPairedDevice").toString();
     const QString reason = client.property("failureReason").toString();
-    out() << "Server:       "
-          << (running ? "running, up " + duration(client.property("uptime").toInt())
-                      : QStringLiteral("stopped"))
-          << (reason.isEmpty() ? QString() : "\nReason:       " + reason)
-          << "\nPort:         " << client.property("port").toInt()
-          << "\nAddress:      " << client.property("localIP").toString()
-          << "\nPairing:      " << (client.property("isPairing").toBool() ? "on" : "off")
-          << "\nLast paired:  " << (device.isEmpty() ? QStringLiteral("none") : device) << Qt::endl;
+    out() << Text::tr("Server:       %1")
+                 .arg(running ? Text::tr("running, up %1")
+                                    .arg(duration(client.property("uptime").toInt()))
+                              : Text::tr("stopped"))
+          << (reason.isEmpty() ? QString() : '\n' + Text::tr("Reason:       %1").arg(reason))
+          << '\n'
+          << Text::tr("Port:         %1").arg(client.property("port").toInt()) << '\n'
+          << Text::tr("Address:      %1").arg(client.property("localIP").toString()) << '\n'
+          << Text::tr("Pairing:      %1")
+                 .arg(client.property("isPairing").toBool() ? Text::tr("on") : Text::tr("off"))
+          << '\n'
+          << Text::tr("Last paired:  %1").arg(device.isEmpty() ? Text::tr("none") : device)
+          << Qt::endl;
     return Success;
 }
 
@@ -109,17 +116,20 @@ int start(ControlClient &client)
         running = client.property("isRunning").toBool();
     }
     if (accepting && running) {
-        out() << "Server running, accepting connections on port " << port << Qt::endl;
+        out() << Text::tr("Server running, accepting connections on port %1").arg(port) << Qt::endl;
         return Success;
     }
     const QString reason = client.property("failureReason").toString();
     if (!running)
-        err() << "The server did not start: "
-              << (reason.isEmpty() ? QStringLiteral("it stopped; see quivractl logs") : reason)
+        err() << Text::tr("The server did not start: %1")
+                     .arg(reason.isEmpty() ? Text::tr("it stopped; see quivractl logs") : reason)
               << Qt::endl;
     else
-        err() << "The server is running but port " << port << " did not accept connections within "
-              << startDeadlineMs / 1000 << " s; see quivractl logs" << Qt::endl;
+        err() << Text::tr("The server is running but port %1 did not accept connections within "
+                          "%2 s; see quivractl logs")
+                     .arg(port)
+                     .arg(startDeadlineMs / 1000)
+              << Qt::endl;
     return Failed;
 }
 
@@ -140,11 +150,12 @@ int stop(ControlClient &client)
             loop.exec();
     }
     if (client.property("isRunning").toBool()) {
-        err() << "The server did not stop within " << startDeadlineMs / 1000
-              << " s; see quivractl logs" << Qt::endl;
+        err() << Text::tr("The server did not stop within %1 s; see quivractl logs")
+                     .arg(startDeadlineMs / 1000)
+              << Qt::endl;
         return Failed;
     }
-    out() << "Server stopped" << Qt::endl;
+    out() << Text::tr("Server stopped") << Qt::endl;
     return Success;
 }
 
@@ -154,10 +165,10 @@ int pair(ControlClient &client)
         // Sending the user to a start that fails for the same reason would go round in circles.
         const QString reason = client.property("failureReason").toString();
         if (reason.isEmpty())
-            err() << "The server is not running, so no phone can pair. Start it with: quivractl "
-                     "start";
+            err() << Text::tr("The server is not running, so no phone can pair. Start it with: "
+                              "quivractl start");
         else
-            err() << "The server is not running (" << reason << "), so no phone can pair.";
+            err() << Text::tr("The server is not running (%1), so no phone can pair.").arg(reason);
         err() << Qt::endl;
         return Failed;
     }
@@ -170,7 +181,7 @@ int pair(ControlClient &client)
         if (code == shownCode)
             return;
         shownCode = code;
-        out() << (terminal ? "\n" : "") << "Pairing code: " << code << "\n\n";
+        out() << (terminal ? "\n" : "") << Text::tr("Pairing code: %1").arg(code) << "\n\n";
         for (const QString &row : bigdigits::render(code))
             out() << "  " << row << '\n';
         out() << Qt::flush;
@@ -185,10 +196,11 @@ int pair(ControlClient &client)
         out() << (terminal ? "\n" : "") << line << Qt::endl;
     };
     showCode(client.property("pairingToken").toString());
-    out() << "Address: " << address << "\n\n";
+    out() << Text::tr("Address: %1").arg(address) << "\n\n";
     for (const QString &row : bigdigits::render(address))
         out() << "  " << row << '\n';
-    out() << "\nOpen Quivra on your iPhone and enter the code. Ctrl-C cancels." << Qt::endl;
+    out() << '\n'
+          << Text::tr("Open Quivra on your iPhone and enter the code. Ctrl-C cancels.") << Qt::endl;
     showGuessers();
 
     // The app owns the code's lifetime: this only shows the time it has left.
@@ -198,12 +210,14 @@ int pair(ControlClient &client)
     QObject::connect(&countdown, &QTimer::timeout, [&] {
         const qint64 left = (expiresAt - QDateTime::currentMSecsSinceEpoch() + 999) / 1000;
         if (terminal && left >= 0)
-            out() << QString::asprintf("\rExpires in %d:%02d ", int(left / 60), int(left % 60))
-                  << Qt::flush;
+            out() << '\r'
+                  << Text::tr("Expires in %1")
+                         .arg(QString::asprintf("%d:%02d", int(left / 60), int(left % 60)))
+                  << ' ' << Qt::flush;
     });
     countdown.start(1000);
     QObject::connect(&client, &ControlClient::paired, [&](const QString &device) {
-        out() << (terminal ? "\n" : "") << "Paired with " << device << Qt::endl;
+        out() << (terminal ? "\n" : "") << Text::tr("Paired with %1").arg(device) << Qt::endl;
         result = Success;
         QCoreApplication::quit();
     });
@@ -224,7 +238,8 @@ int pair(ControlClient &client)
                 return;
             const bool expired = expiresAt <= QDateTime::currentMSecsSinceEpoch();
             err() << (terminal ? "\n" : "")
-                  << (expired ? "The pairing code expired." : "Pairing mode was switched off.")
+                  << (expired ? Text::tr("The pairing code expired.")
+                              : Text::tr("Pairing mode was switched off."))
                   << Qt::endl;
             result = Failed;
             QCoreApplication::quit();
@@ -234,7 +249,7 @@ int pair(ControlClient &client)
     if (result != Success && client.property("isPairing").toBool())
         client.call(QStringLiteral("TogglePairingMode"));
     if (result == Interrupted)
-        err() << (terminal ? "\n" : "") << "Pairing cancelled." << Qt::endl;
+        err() << (terminal ? "\n" : "") << Text::tr("Pairing cancelled.") << Qt::endl;
     return result;
 }
 
@@ -274,13 +289,13 @@ int devices(ControlClient &client, bool json)
     }
     const QJsonArray list = QJsonDocument::fromJson(text->toString().toUtf8()).array();
     if (list.isEmpty()) {
-        out() << "No paired phones." << Qt::endl;
+        out() << Text::tr("No paired phones.") << Qt::endl;
         return Success;
     }
     out() << QStringLiteral("%1  %2  %3\n")
-                 .arg(QStringLiteral("Name"), -28)
-                 .arg(QStringLiteral("Paired"), -16)
-                 .arg(QStringLiteral("Fingerprint"));
+                 .arg(Text::tr("Name"), -28)
+                 .arg(Text::tr("Paired"), -16)
+                 .arg(Text::tr("Fingerprint"));
     for (const QJsonValue &value : list) {
         const QJsonObject device = value.toObject();
         const QDateTime paired =
@@ -297,11 +312,13 @@ int devices(ControlClient &client, bool json)
 int revoke(ControlClient &client, const QString &nameOrFingerprint, bool yes)
 {
     if (!yes) {
-        out() << "Revoke \"" << nameOrFingerprint
-              << "\"? It will no longer be able to log in to this computer. [y/N] " << Qt::flush;
+        out() << Text::tr("Revoke \"%1\"? It will no longer be able to log in to this computer. "
+                          "[y/N] ")
+                     .arg(nameOrFingerprint)
+              << Qt::flush;
         const QString answer = QTextStream(stdin).readLine().trimmed().toLower();
         if (answer != QLatin1String("y") && answer != QLatin1String("yes")) {
-            err() << "Nothing revoked." << Qt::endl;
+            err() << Text::tr("Nothing revoked.") << Qt::endl;
             return Failed;
         }
     }

@@ -1,6 +1,7 @@
 #include "controlclient.h"
 
 #include "control/controlservice.h"
+#include "text.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -33,11 +34,11 @@ QString ControlClient::unreachableReason() const
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
-        return QStringLiteral("No session bus, so QuivraMac cannot be reached. Run quivractl in "
-                              "the same login session as the app.");
+        return Text::tr("No session bus, so QuivraMac cannot be reached. Run quivractl in the "
+                        "same login session as the app.");
     if (!bus.interface()->isServiceRegistered(QString::fromLatin1(ControlService::serviceName)))
-        return QStringLiteral("QuivraMac is not running. Start it with \"quivramac\" or "
-                              "\"systemctl --user start quivramac\".");
+        return Text::tr("QuivraMac is not running. Start it with \"quivramac\" or \"systemctl "
+                        "--user start quivramac\".");
     return {};
 }
 
@@ -60,7 +61,7 @@ std::optional<QVariantList> ControlClient::callWith(const QString &method,
         // The app's own failure says what went wrong; any other error means it did not answer.
         m_lastError = reply.errorName() == QLatin1String(ControlService::failedError)
             ? reply.errorMessage()
-            : QStringLiteral("QuivraMac did not answer: ") + reply.errorMessage();
+            : Text::tr("QuivraMac did not answer: %1").arg(reply.errorMessage());
         return std::nullopt;
     }
     return reply.arguments();

@@ -1,5 +1,7 @@
 #include "commands.h"
 #include "controlclient.h"
+#include "platform/translations.h"
+#include "text.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -15,26 +17,36 @@ struct Command
 
 constexpr Command commandList[] = {
     { "status",
-      "Show the server (and why it is not running), its address, pairing mode and the last "
-      "paired phone." },
-    { "start", "Start the Quivra server and wait until it accepts connections (at most 5 s)." },
-    { "stop", "Stop the Quivra server." },
-    { "pair", "Switch pairing mode on, show the code and wait for a phone to pair." },
-    { "logs", "Print the app's log." },
-    { "devices", "List the phones that can log in to this computer." },
-    { "revoke", "Take a phone's key away, by its name or fingerprint." },
-    { "open", "Show the app's panel (its setup window while that is open)." },
+      QT_TRANSLATE_NOOP("quivractl",
+                        "Show the server (and why it is not running), its address, pairing mode "
+                        "and the last paired phone.") },
+    { "start",
+      QT_TRANSLATE_NOOP("quivractl",
+                        "Start the Quivra server and wait until it accepts connections (at most "
+                        "5 s).") },
+    { "stop", QT_TRANSLATE_NOOP("quivractl", "Stop the Quivra server.") },
+    { "pair",
+      QT_TRANSLATE_NOOP("quivractl",
+                        "Switch pairing mode on, show the code and wait for a phone to pair.") },
+    { "logs", QT_TRANSLATE_NOOP("quivractl", "Print the app's log.") },
+    { "devices",
+      QT_TRANSLATE_NOOP("quivractl", "List the phones that can log in to this computer.") },
+    { "revoke",
+      QT_TRANSLATE_NOOP("quivractl", "Take a phone's key away, by its name or fingerprint.") },
+    { "open",
+      QT_TRANSLATE_NOOP("quivractl",
+                        "Show the app's panel (its setup window while that is open).") },
 };
 
 QString overview()
 {
-    QString text = QStringLiteral("Usage: quivractl <command> [options]\n\nControls the running "
-                                  "QuivraMac app.\n\nCommands:\n");
+    QString text = Text::tr("Usage: quivractl <command> [options]\n\nControls the running "
+                            "QuivraMac app.\n\nCommands:\n");
     for (const Command &command : commandList)
         text += QStringLiteral("  %1  %2\n")
                     .arg(QLatin1String(command.name), -8)
-                    .arg(QLatin1String(command.summary));
-    return text + QStringLiteral("\nRun \"quivractl <command> --help\" for a command's options.\n");
+                    .arg(Text::tr(command.summary));
+    return text + Text::tr("\nRun \"quivractl <command> --help\" for a command's options.\n");
 }
 
 } // namespace
@@ -42,6 +54,7 @@ QString overview()
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
+    translations::install();
     QCoreApplication::setApplicationName(QStringLiteral("quivractl"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUIVRA_VERSION));
     QTextStream err(stderr);
@@ -56,7 +69,8 @@ int main(int argc, char *argv[])
         return commands::Success;
     }
     if (found == std::end(commandList)) {
-        err << (name.isEmpty() ? QString() : "Unknown command \"" + name + "\".\n") << overview();
+        err << (name.isEmpty() ? QString() : Text::tr("Unknown command \"%1\".\n").arg(name))
+            << overview();
         return commands::Usage;
     }
 
@@ -64,13 +78,13 @@ int main(int argc, char *argv[])
     parser.setApplicationDescription(QLatin1String(found->summary));
     parser.addHelpOption();
     const QCommandLineOption json(QStringLiteral("json"),
-                                  QStringLiteral("Print the status report a phone receives."));
+                                  Text::tr("Print the status report a phone receives."));
     const QCommandLineOption follow({ QStringLiteral("f"), QStringLiteral("follow") },
-                                    QStringLiteral("Keep printing new log lines."));
+                                    Text::tr("Keep printing new log lines."));
     if (name == QLatin1String("status"))
         parser.addOption(json);
     const QCommandLineOption yes({ QStringLiteral("y"), QStringLiteral("yes") },
-                                 QStringLiteral("Revoke without asking first."));
+                                 Text::tr("Revoke without asking first."));
     if (name == QLatin1String("logs"))
         parser.addOption(follow);
     if (name == QLatin1String("devices"))
@@ -78,18 +92,19 @@ int main(int argc, char *argv[])
     if (name == QLatin1String("revoke")) {
         parser.addOption(yes);
         parser.addPositionalArgument(QStringLiteral("phone"),
-                                     QStringLiteral("The phone's name or SHA256 fingerprint."));
+                                     Text::tr("The phone's name or SHA256 fingerprint."));
     }
     arguments.removeAt(1);
     arguments[0] = QStringLiteral("quivractl ") + name;
     parser.process(arguments);
     const qsizetype wanted = name == QLatin1String("revoke") ? 1 : 0;
     if (parser.positionalArguments().size() < wanted) {
-        err << "Which phone? Give its name or fingerprint (see quivractl devices).\n";
+        err << Text::tr("Which phone? Give its name or fingerprint (see quivractl devices).\n");
         return commands::Usage;
     }
     if (parser.positionalArguments().size() > wanted) {
-        err << "Unexpected argument \"" << parser.positionalArguments().value(wanted) << "\".\n";
+        err << Text::tr("Unexpected argument \"%1\".\n")
+                   .arg(parser.positionalArguments().value(wanted));
         return commands::Usage;
     }
 

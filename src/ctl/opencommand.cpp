@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "control/windowservice.h"
+#include "text.h"
 
 #include <QTextStream>
 
@@ -17,7 +18,7 @@ int open()
     case WindowService::Answer::NoAnswer:
         break;
     }
-    err << "QuivraMac did not answer." << Qt::endl;
+    err << Text::tr("QuivraMac did not answer.") << Qt::endl;
     return Failed;
 }
 

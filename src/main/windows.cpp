@@ -4,6 +4,7 @@
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
 #include "platform/logging.h"
+#include "platform/translations.h"
 #include "ui/trayicon.h"
 #include "ui/uicontroller.h"
 #include "ui/windowmanager.h"
@@ -20,6 +21,7 @@ extern "C" Q_DECL_EXPORT int quivramacRunWithWindows(int *argc, char **argv)
     if (!displayplatform::choose())
         return 1;
     QApplication app(*argc, argv);
+    translations::install();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/QuivraMac/Icons/quivramac.svg")));
     // Closing the last window leaves the app in the menu bar.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -1,9 +1,11 @@
 // Renders every screen and state of the panel, the settings window and the setup window to PNG
 // files, light and dark, checks that each file was written at the size expected, and checks each
 // layout as a person would see it. Any fault fails the run, naming the screen, state and item.
+// With a language (de, ja) or a catalogue file (the pseudo-language's .qm), the same set in it.
 #include "layoutcheck.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
+#include "platform/translations.h"
 #include "qmlharness.h"
 #include "ui/pairingcountdown.h"
 #include "ui/uicontroller.h"
@@ -216,9 +218,18 @@ int main(int argc, char *argv[])
     testsupport::routeLogging();
     testsupport::prepareQuick();
     QApplication app(argc, argv);
-    if (argc != 2) {
-        qCritical("usage: quivra-screenshots OUTPUT_FOLDER");
+    if (argc != 2 && argc != 3) {
+        qCritical("usage: quivra-screenshots OUTPUT_FOLDER [LANGUAGE|CATALOGUE.qm]");
         return 2;
+    }
+    if (const QString language = QString::fromLocal8Bit(argc == 3 ? argv[2] : "");
+        language.endsWith(".qm")) {
+        if (!translations::installFile(language)) {
+            qCritical("cannot load %s", argv[2]);
+            return 2;
+        }
+    } else if (!language.isEmpty()) {
+        translations::install(QLocale(language));
     }
     const QDir out(QString::fromLocal8Bit(argv[1]));
     QDir().mkpath(out.path());

@@ -43,9 +43,9 @@ QString OnboardingFlow::message(ErrorKind kind, const QString &macNetwork)
     case NetworkMismatch:
         return wording::networkMismatch().arg(macNetwork);
     case WrongCode:
-        return QStringLiteral("The code entered on your iPhone didn't match.");
+        return tr("The code entered on your iPhone didn't match.");
     case Timeout:
-        return QStringLiteral("No device connected within the time limit.");
+        return tr("No device connected within the time limit.");
     case ConnectionFailed:
         return wording::connectionFailed();
     }

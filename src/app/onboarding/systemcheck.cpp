@@ -67,8 +67,8 @@ void SystemCheck::fix()
 QString SystemCheck::title() const
 {
     if (m_allPassed)
-        return QStringLiteral("Looking good!");
-    return m_failed >= 0 ? QStringLiteral("Almost there...") : wording::checkingMachine();
+        return tr("Looking good!");
+    return m_failed >= 0 ? tr("Almost there...") : wording::checkingMachine();
 }
 
 void SystemCheck::appear()
@@ -76,14 +76,11 @@ void SystemCheck::appear()
     const int port = m_serverManager ? m_serverManager->port() : 2022;
     const QString address = net::chooseLocalIP(m_system.interfaces());
     m_items = {
-        { QStringLiteral("ssh_daemon"), wording::sshCheckName(),
+        { QStringLiteral("ssh_daemon"), wording::shown(wording::sshCheckName()),
           wording::acceptsSecureConnections() },
-        { QStringLiteral("ssh_dir"), QStringLiteral("SSH Keys"),
-          QStringLiteral("Ready to authenticate") },
-        { QStringLiteral("etserver"), QStringLiteral("Quivra Server"),
-          QStringLiteral("Running on port %1").arg(port) },
-        { QStringLiteral("network"), QStringLiteral("Network"),
-          QStringLiteral("Connected at ") + address },
+        { QStringLiteral("ssh_dir"), tr("SSH Keys"), tr("Ready to authenticate") },
+        { QStringLiteral("etserver"), tr("Quivra Server"), tr("Running on port %1").arg(port) },
+        { QStringLiteral("network"), tr("Network"), tr("Connected at %1").arg(address) },
     };
     start();
 }
@@ -200,10 +197,9 @@ SystemCheck::Item SystemCheck::checkSshDirectory() const
     const checks::SshDirectoryState state = checks::inspectSshDirectory(m_system.homeDirectory());
     switch (state.kind) {
     case checks::SshDirectoryState::Missing:
-        return fixable(QStringLiteral("~/.ssh directory doesn't exist"),
-                       prompts::missingSshDirectory());
+        return fixable(tr("~/.ssh directory doesn't exist"), prompts::missingSshDirectory());
     case checks::SshDirectoryState::WrongMode:
-        return fixable(QStringLiteral("~/.ssh has wrong permissions"),
+        return fixable(tr("~/.ssh has wrong permissions"),
                        prompts::wrongPermissions(QString::number(state.mode, 8)));
     case checks::SshDirectoryState::Unreadable: // unreadable permissions count as correct
     case checks::SshDirectoryState::Fine:
@@ -211,7 +207,7 @@ SystemCheck::Item SystemCheck::checkSshDirectory() const
     }
     // sshd ignores a key file others can change; 0600 is what pairing gives it.
     if (const auto mode = checks::authorizedKeysWrongMode(m_system.homeDirectory()))
-        return fixable(QStringLiteral("authorized_keys has wrong permissions"),
+        return fixable(tr("authorized_keys has wrong permissions"),
                        prompts::wrongKeyPermissions(QString::number(*mode, 8)));
     return passed;
 }
@@ -220,19 +216,17 @@ void SystemCheck::checkServer(std::function<void(Item)> done)
 {
     const auto verdict = [this](const std::function<void(Item)> &report) {
         if (!m_serverManager)
-            return report(
-                failed(QStringLiteral("Server couldn't start"), prompts::serverCrash(-1, {})));
+            return report(failed(tr("Server couldn't start"), prompts::serverCrash(-1, {})));
         if (m_serverManager->isRunning())
             return report(passed);
         const ServerFailure failure = m_serverManager->supervisor().failure();
         const int port = m_serverManager->port();
         if (failure.kind == ServerFailure::NotInstalled)
-            return report(failed(QStringLiteral("Eternal Terminal is not installed"),
-                                 prompts::etserverMissing()));
-        if (failure.kind == ServerFailure::PortInUse)
             return report(
-                failed(QStringLiteral("Port %1 is in use").arg(port), prompts::portInUse(port)));
-        report(failed(QStringLiteral("Server couldn't start"),
+                failed(tr("Eternal Terminal is not installed"), prompts::etserverMissing()));
+        if (failure.kind == ServerFailure::PortInUse)
+            return report(failed(tr("Port %1 is in use").arg(port), prompts::portInUse(port)));
+        report(failed(tr("Server couldn't start"),
                       prompts::serverCrash(failure.exitCode, m_serverManager->logs())));
     };
     if (m_serverManager && !m_serverManager->isRunning()) {
@@ -246,6 +240,6 @@ void SystemCheck::checkServer(std::function<void(Item)> done)
 SystemCheck::Item SystemCheck::checkNetwork() const
 {
     if (checks::network(m_system.interfaces()).kind != DiagnosticStatus::Passed)
-        return failed(QStringLiteral("No network connection"), prompts::noNetwork());
+        return failed(tr("No network connection"), prompts::noNetwork());
     return passed;
 }

@@ -127,11 +127,10 @@ QString PairingSession::describeGuessers(const QStringList &addresses)
     if (addresses.isEmpty())
         return {};
     const qsizetype others = addresses.size() - 1;
-    return QStringLiteral("Someone is guessing the code from %1%2")
-        .arg(addresses.constFirst(),
-             others == 0       ? QString()
-                 : others == 1 ? QStringLiteral(" and 1 other address")
-                               : QStringLiteral(" and %1 other addresses").arg(others));
+    if (others == 0)
+        return tr("Someone is guessing the code from %1").arg(addresses.constFirst());
+    return tr("Someone is guessing the code from %1 and %n other address(es)", nullptr, int(others))
+        .arg(addresses.constFirst());
 }
 
 // A code is good for one pairing, a few wrong guesses and a limited time.

@@ -2,6 +2,7 @@
 
 #include "platform/systeminfo.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 // The texts that name this machine and its platform's services. macOS keeps the product's own
@@ -9,6 +10,9 @@
 // Each platform's set lives in one file (wording_mac.cpp, wording_linux.cpp) so that the two can
 // be read side by side.
 namespace wording {
+
+// Texts the windows show in the user's language; those a window shares with the phone's report,
+// a help request or the log are English, and a window shows them through shown().
 
 // This machine as the user calls it: "Mac", "computer".
 QString machine();
@@ -28,7 +32,8 @@ QString accessibleOnNetwork();
 QString networkMismatch();
 QString connectionFailed();
 
-// The SSH server check, as the phone's report and the setup window name it.
+// The SSH server check, as the phone's report names it; the setup window shows its name through
+// shown().
 QString sshCheckName();
 QString sshCheckDescription();
 // Why it failed and what mends it: a sentence, and the command to run where there is one.
@@ -37,9 +42,10 @@ struct SshAdvice
     QString message;
     QString command;
 };
-// The setup window's words: the command stands apart so that it can be copied.
+// The setup window's words, in the user's language: the command stands apart so that it can be
+// copied.
 SshAdvice sshSetupAdvice(const platform::SshServerInstall &install);
-// The phone's report: the same in one line.
+// The phone's report: the same in English, in one line.
 QString sshNotRunning(const platform::SshServerInstall &install);
 QString sshRequestTitle();
 QString sshRequest();
@@ -66,5 +72,11 @@ QString serverEnded(int code, bool crashed, bool asked);
 SshAdvice sshAdviceOn(const QString &osRelease, const platform::SshServerInstall &install);
 QString etserverInstallCommandOn(const QString &osRelease);
 #endif
+
+// The windows' copy of one of the English texts above that the report also carries.
+inline QString shown(const QString &english)
+{
+    return QCoreApplication::translate("wording", english.toUtf8().constData());
+}
 
 } // namespace wording

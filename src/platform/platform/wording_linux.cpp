@@ -1,5 +1,6 @@
 #include "platform/wording.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QStringList>
@@ -12,11 +13,11 @@ namespace wording {
 // system's own Settings.
 QString setupWindowTitle()
 {
-    return QStringLiteral("QuivraMac Setup");
+    return QCoreApplication::translate("wording", "QuivraMac Setup");
 }
 QString settingsWindowTitle()
 {
-    return QStringLiteral("QuivraMac Settings");
+    return QCoreApplication::translate("wording", "QuivraMac Settings");
 }
 bool setupWindowFrameless()
 {
@@ -24,7 +25,7 @@ bool setupWindowFrameless()
 }
 QString statusRowLabel()
 {
-    return QStringLiteral("Server");
+    return QCoreApplication::translate("wording", "Server");
 }
 
 // A stop the user asked for is already logged as such; the signal that ended it would read as a
@@ -48,38 +49,41 @@ QString machine()
 }
 QString machineLabel()
 {
-    return QStringLiteral("Computer");
+    return QCoreApplication::translate("wording", "Computer");
 }
 
 QString welcomeTitle()
 {
-    return QStringLiteral("Your computer, ready for Quivra.");
+    return QCoreApplication::translate("wording", "Your computer, ready for Quivra.");
 }
 QString welcomeBody()
 {
-    return QStringLiteral("This app runs quietly in your system tray,\nkeeping your computer "
-                          "connected to Quivra on iOS.");
+    return QCoreApplication::translate(
+        "wording",
+        "This app runs quietly in your system tray,\nkeeping your computer "
+        "connected to Quivra on iOS.");
 }
 QString explanationBody()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "wording",
         "QuivraMac creates a resilient connection\nbetween your iPhone and this computer.");
 }
 QString explanationTrayRow()
 {
-    return QStringLiteral("Runs invisibly in the system tray");
+    return QCoreApplication::translate("wording", "Runs invisibly in the system tray");
 }
 QString connectedToThisMachine()
 {
-    return QStringLiteral("%1 is now connected to this computer.");
+    return QCoreApplication::translate("wording", "%1 is now connected to this computer.");
 }
 QString checkingMachine()
 {
-    return QStringLiteral("Checking your computer...");
+    return QCoreApplication::translate("wording", "Checking your computer...");
 }
 QString acceptsSecureConnections()
 {
-    return QStringLiteral("Your computer accepts secure connections");
+    return QCoreApplication::translate("wording", "Your computer accepts secure connections");
 }
 QString accessibleOnNetwork()
 {
@@ -87,17 +91,17 @@ QString accessibleOnNetwork()
 }
 QString networkMismatch()
 {
-    return QStringLiteral(
-        "Your computer is on \"%1\". Make sure your iPhone is on the same network.");
+    return QCoreApplication::translate(
+        "wording", "Your computer is on \"%1\". Make sure your iPhone is on the same network.");
 }
 QString connectionFailed()
 {
-    return QStringLiteral("Your iPhone couldn't reach this computer.");
+    return QCoreApplication::translate("wording", "Your iPhone couldn't reach this computer.");
 }
 
 QString sshCheckName()
 {
-    return QStringLiteral("SSH Server");
+    return QStringLiteral(QT_TRANSLATE_NOOP("wording", "SSH Server"));
 }
 QString sshCheckDescription()
 {
@@ -135,13 +139,16 @@ SshAdvice sshAdviceOn(const QString &osRelease, const platform::SshServerInstall
         // Installed and not answering: its service is off (Debian starts it on install, Fedora
         // and Arch do not).
         if (install.service.isEmpty())
-            return { QStringLiteral("SSH server is installed but not running. Start its service "
-                                    "(sshd)."),
+            return { QStringLiteral(QT_TRANSLATE_NOOP("wording",
+                                                      "SSH server is installed but not running. "
+                                                      "Start its service (sshd).")),
                      {} };
-        return { QStringLiteral("SSH server is installed but not running. Start it with:"),
+        return { QStringLiteral(QT_TRANSLATE_NOOP(
+                     "wording", "SSH server is installed but not running. Start it with:")),
                  QStringLiteral("sudo systemctl enable --now ") + install.service };
     }
-    const QString prefix = QStringLiteral("SSH server is not installed. Install it with:");
+    const QString prefix = QStringLiteral(
+        QT_TRANSLATE_NOOP("wording", "SSH server is not installed. Install it with:"));
     for (const QString &id : family(osRelease)) {
         if (id == QLatin1String("debian") || id == QLatin1String("ubuntu"))
             return { prefix, QStringLiteral("sudo apt install openssh-server") };
@@ -153,7 +160,9 @@ SshAdvice sshAdviceOn(const QString &osRelease, const platform::SshServerInstall
             return { prefix,
                      QStringLiteral("sudo pacman -S openssh && sudo systemctl enable --now sshd") };
     }
-    return { QStringLiteral("SSH server is not installed. Install and start OpenSSH's sshd."), {} };
+    return { QStringLiteral(QT_TRANSLATE_NOOP(
+                 "wording", "SSH server is not installed. Install and start OpenSSH's sshd.")),
+             {} };
 }
 
 namespace {
@@ -202,11 +211,13 @@ const QString &systemRelease()
 }
 SshAdvice sshSetupAdvice(const platform::SshServerInstall &install)
 {
-    return sshAdviceOn(systemRelease(), install);
+    SshAdvice advice = sshAdviceOn(systemRelease(), install);
+    advice.message = shown(advice.message);
+    return advice;
 }
 QString sshNotRunning(const platform::SshServerInstall &install)
 {
-    const SshAdvice advice = sshSetupAdvice(install);
+    const SshAdvice advice = sshAdviceOn(systemRelease(), install);
     return advice.command.isEmpty() ? advice.message
                                     : advice.message + QLatin1Char(' ') + advice.command;
 }

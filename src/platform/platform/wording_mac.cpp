@@ -1,14 +1,16 @@
 #include "platform/wording.h"
 
+#include <QCoreApplication>
+
 namespace wording {
 
 QString setupWindowTitle()
 {
-    return QStringLiteral("Setup");
+    return QCoreApplication::translate("wording", "Setup");
 }
 QString settingsWindowTitle()
 {
-    return QStringLiteral("Settings");
+    return QCoreApplication::translate("wording", "Settings");
 }
 bool setupWindowFrameless()
 {
@@ -16,7 +18,7 @@ bool setupWindowFrameless()
 }
 QString statusRowLabel()
 {
-    return QStringLiteral("Status");
+    return QCoreApplication::translate("wording", "Status");
 }
 
 QString serverEnded(int code, bool, bool)
@@ -26,42 +28,43 @@ QString serverEnded(int code, bool, bool)
 
 QString machine()
 {
-    return QStringLiteral("Mac");
+    return QCoreApplication::translate("wording", "Mac");
 }
 QString machineLabel()
 {
-    return QStringLiteral("Mac");
+    return QCoreApplication::translate("wording", "Mac");
 }
 
 QString welcomeTitle()
 {
-    return QStringLiteral("Your Mac, ready for Quivra.");
+    return QCoreApplication::translate("wording", "Your Mac, ready for Quivra.");
 }
 QString welcomeBody()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "wording",
         "This app runs quietly in your menu bar,\nkeeping your Mac connected to Quivra on iOS.");
 }
 QString explanationBody()
 {
-    return QStringLiteral(
-        "QuivraMac creates a resilient connection\nbetween your iPhone and this Mac.");
+    return QCoreApplication::translate(
+        "wording", "QuivraMac creates a resilient connection\nbetween your iPhone and this Mac.");
 }
 QString explanationTrayRow()
 {
-    return QStringLiteral("Runs invisibly in the menu bar");
+    return QCoreApplication::translate("wording", "Runs invisibly in the menu bar");
 }
 QString connectedToThisMachine()
 {
-    return QStringLiteral("%1 is now connected to this Mac.");
+    return QCoreApplication::translate("wording", "%1 is now connected to this Mac.");
 }
 QString checkingMachine()
 {
-    return QStringLiteral("Checking your Mac...");
+    return QCoreApplication::translate("wording", "Checking your Mac...");
 }
 QString acceptsSecureConnections()
 {
-    return QStringLiteral("Your Mac accepts secure connections");
+    return QCoreApplication::translate("wording", "Your Mac accepts secure connections");
 }
 QString accessibleOnNetwork()
 {
@@ -69,16 +72,17 @@ QString accessibleOnNetwork()
 }
 QString networkMismatch()
 {
-    return QStringLiteral("Your Mac is on \"%1\". Make sure your iPhone is on the same network.");
+    return QCoreApplication::translate(
+        "wording", "Your Mac is on \"%1\". Make sure your iPhone is on the same network.");
 }
 QString connectionFailed()
 {
-    return QStringLiteral("Your iPhone couldn't reach this Mac.");
+    return QCoreApplication::translate("wording", "Your iPhone couldn't reach this Mac.");
 }
 
 QString sshCheckName()
 {
-    return QStringLiteral("Remote Login");
+    return QStringLiteral(QT_TRANSLATE_NOOP("wording", "Remote Login"));
 }
 QString sshCheckDescription()
 {
@@ -91,7 +95,7 @@ QString sshNotRunning(const platform::SshServerInstall &)
 }
 SshAdvice sshSetupAdvice(const platform::SshServerInstall &)
 {
-    return { QStringLiteral("Remote Login is disabled"), {} };
+    return { QCoreApplication::translate("wording", "Remote Login is disabled"), {} };
 }
 QString sshRequestTitle()
 {

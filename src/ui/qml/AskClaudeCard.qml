@@ -28,7 +28,7 @@ Rectangle {
         Row {
             spacing: 6
             SymbolImage { name: "sparkles"; size: 14; color: Theme.purple }
-            Text { textFormat: Text.PlainText; text: "Ask Claude Code"; font.pixelSize: 14; font.weight: Font.DemiBold; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: qsTr("Ask Claude Code"); font.pixelSize: 14; font.weight: Font.DemiBold; color: Theme.text }
         }
         Text {
             textFormat: Text.PlainText
@@ -43,7 +43,7 @@ Rectangle {
         AbstractButton {
             objectName: "copyPromptButton"
             width: parent.width
-            text: model.copied ? "Copied!" : "Copy to Clipboard"
+            text: model.copied ? qsTr("Copied!") : qsTr("Copy to Clipboard")
             Accessible.name: text
             implicitHeight: 38
             onClicked: model.copy()
@@ -65,7 +65,7 @@ Rectangle {
                 Text {
                     textFormat: Text.PlainText
                     anchors.verticalCenter: parent.verticalCenter
-                    text: model.copied ? "Copied!" : "Copy to Clipboard"
+                    text: model.copied ? qsTr("Copied!") : qsTr("Copy to Clipboard")
                     font.pixelSize: 13
                     font.weight: Font.Medium
                     color: model.copied ? Theme.green : Theme.accentColor

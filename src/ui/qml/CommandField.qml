@@ -44,7 +44,7 @@ RowLayout {
         id: copy
         objectName: "copyCommand"
         Layout.alignment: Qt.AlignTop
-        text: "Copy"
+        text: qsTr("Copy")
         onClicked: Ui.copyText(field.command)
     }
 }

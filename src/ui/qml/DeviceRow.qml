@@ -60,7 +60,7 @@ Item {
                 id: revokeButton
                 objectName: "revokeButton"
                 visible: !row.confirming
-                text: "Revoke..."
+                text: qsTr("Revoke...")
                 color: Theme.red
                 onClicked: row.askRevoke()
             }
@@ -84,8 +84,8 @@ Item {
                     color: Theme.textSecondary
                 }
             }
-            LinkButton { text: "Copy"; onClicked: Ui.copyText(row.fingerprint) }
-            Text { textFormat: Text.PlainText; text: "Paired " + row.paired; font.pixelSize: 11; color: Theme.textSecondary }
+            LinkButton { text: qsTr("Copy"); onClicked: Ui.copyText(row.fingerprint) }
+            Text { textFormat: Text.PlainText; text: qsTr("Paired %1").arg(row.paired); font.pixelSize: 11; color: Theme.textSecondary }
         }
         ColumnLayout {
             visible: row.confirming
@@ -95,17 +95,17 @@ Item {
             Text {
                 textFormat: Text.PlainText
                 Layout.fillWidth: true
-                text: "Revoke \u201c" + row.name + "\u201d? It will no longer be able to log in to this computer."
+                text: qsTr("Revoke \u201c%1\u201d? It will no longer be able to log in to this computer.").arg(row.name)
                 wrapMode: Text.Wrap
                 font.pixelSize: 12
                 color: Theme.text
             }
             RowLayout {
                 spacing: 8
-                Button { id: cancelButton; objectName: "cancelRevoke"; text: "Cancel"; onClicked: row.cancel() }
+                Button { id: cancelButton; objectName: "cancelRevoke"; text: qsTr("Cancel"); onClicked: row.cancel() }
                 Button {
                     objectName: "confirmRevoke"
-                    text: "Revoke"
+                    text: qsTr("Revoke")
                     palette.button: Theme.redFill
                     palette.buttonText: "#ffffff"
                     onClicked: row.confirm()

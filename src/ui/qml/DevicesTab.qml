@@ -22,7 +22,7 @@ ColumnLayout {
         textFormat: Text.PlainText
         Layout.leftMargin: 16
         Layout.topMargin: 16
-        text: "Paired Devices"
+        text: qsTr("Paired Devices")
         Accessible.role: Accessible.StaticText
         Accessible.name: text
         font.pixelSize: 15
@@ -62,7 +62,7 @@ ColumnLayout {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
-                text: "No phone can log in with a paired key yet."
+                text: qsTr("No phone can log in with a paired key yet.")
                 font.pixelSize: 13
                 color: Theme.textSecondary
             }

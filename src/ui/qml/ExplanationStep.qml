@@ -96,7 +96,7 @@ Item {
         Text {
             textFormat: Text.PlainText
             Layout.alignment: Qt.AlignHCenter
-            text: "A bridge that never drops."
+            text: qsTr("A bridge that never drops.")
             font.pixelSize: 24
             font.weight: Font.DemiBold
             color: Theme.text
@@ -112,15 +112,15 @@ Item {
         Column {
             Layout.alignment: Qt.AlignHCenter
             spacing: 10
-            FeatureBullet { icon: "wifi"; text: "Survives WiFi switches and sleep" }
-            FeatureBullet { icon: "arrow.clockwise"; text: "Reconnects automatically" }
+            FeatureBullet { icon: "wifi"; text: qsTr("Survives WiFi switches and sleep") }
+            FeatureBullet { icon: "arrow.clockwise"; text: qsTr("Reconnects automatically") }
             FeatureBullet { icon: "menubar.rectangle"; text: Wording.explanationTrayRow }
         }
         Row {
             Layout.alignment: Qt.AlignHCenter
             spacing: 12
-            OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
-            OnboardingButton { id: continueButton; title: "Continue"; onClicked: step.continueClicked() }
+            OnboardingButton { title: qsTr("Back"); primary: false; onClicked: step.backClicked() }
+            OnboardingButton { id: continueButton; title: qsTr("Continue"); onClicked: step.continueClicked() }
         }
     }
 }

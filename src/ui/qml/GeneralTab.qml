@@ -37,25 +37,25 @@ ScrollView {
         y: 16
         spacing: 8
 
-        SectionHeader { text: "Server" }
+        SectionHeader { text: qsTr("Server") }
         SectionBox {
             RowLayout {
                 Layout.fillWidth: true
-                Text { textFormat: Text.PlainText; text: "Start server automatically"; font.pixelSize: 13; color: Theme.text }
+                Text { textFormat: Text.PlainText; text: qsTr("Start server automatically"); font.pixelSize: 13; color: Theme.text }
                 Item { Layout.fillWidth: true }
                 ThemedSwitch {
                     objectName: "autoStartSwitch"
-                    Accessible.name: "Start server automatically"
+                    Accessible.name: qsTr("Start server automatically")
                     checked: Ui.autoStartServer
                     onToggled: Ui.autoStartServer = checked
                 }
             }
             FormRow {
-                label: "Port"
+                label: qsTr("Port")
                 Text { textFormat: Text.PlainText; text: String(ServerManager.port); font.pixelSize: 13; color: Theme.textSecondary }
             }
             FormRow {
-                label: "Local IP"
+                label: qsTr("Local IP")
                 TextEdit {
                     text: ServerManager.localIP
                     readOnly: true
@@ -66,7 +66,7 @@ ScrollView {
             }
         }
 
-        SectionHeader { text: "Status"; Layout.topMargin: 8 }
+        SectionHeader { text: qsTr("Status"); Layout.topMargin: 8 }
         SectionBox {
             FormRow {
                 label: Wording.statusRowLabel
@@ -82,7 +82,7 @@ ScrollView {
                 Text {
                     textFormat: Text.PlainText
                     objectName: "runningText"
-                    text: ServerManager.isRunning ? "Running" : "Stopped"
+                    text: ServerManager.isRunning ? qsTr("Running") : qsTr("Stopped")
                     font.pixelSize: 13
                     color: Theme.textSecondary
                 }
@@ -104,7 +104,7 @@ ScrollView {
             // jump as the server starts and stops.
             FormRow {
                 objectName: "uptimeRow"
-                label: "Uptime"
+                label: qsTr("Uptime")
                 opacity: ServerManager.isRunning ? 1 : 0
                 Accessible.ignored: !ServerManager.isRunning
                 Text {
@@ -125,7 +125,7 @@ ScrollView {
                 Item { Layout.fillWidth: true }
                 Button {
                     objectName: "startStopButton"
-                    text: ServerManager.isRunning ? "Stop Server" : "Start Server"
+                    text: ServerManager.isRunning ? qsTr("Stop Server") : qsTr("Start Server")
                     Accessible.name: text
                     onClicked: Ui.toggleServer()
                 }

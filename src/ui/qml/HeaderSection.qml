@@ -34,7 +34,7 @@ RowLayout {
         Text {
             textFormat: Text.PlainText
             objectName: "serverStatus"
-            text: header.isRunning ? "Port " + header.port : "Server off"
+            text: header.isRunning ? qsTr("Port %1").arg(header.port) : qsTr("Server off")
             font.pixelSize: 11
             color: Theme.textSecondary
         }
@@ -56,7 +56,7 @@ RowLayout {
     }
     ThemedSwitch {
         objectName: "serverSwitch"
-        Accessible.name: "Server"
+        Accessible.name: qsTr("Server")
         checked: header.isRunning
         // The switch never keeps its own position: it shows isRunning once that changes.
         onToggled: {

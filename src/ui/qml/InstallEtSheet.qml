@@ -22,7 +22,7 @@ ThemedSurface {
 
         Text {
             textFormat: Text.PlainText
-            text: "Install Eternal Terminal"
+            text: qsTr("Install Eternal Terminal")
             font.pixelSize: 17
             font.weight: Font.DemiBold
             color: Theme.text
@@ -31,9 +31,9 @@ ThemedSurface {
             textFormat: Text.PlainText
             Layout.fillWidth: true
             wrapMode: Text.Wrap
-            text: "This copy of QuivraMac was built without its own Eternal Terminal server, "
+            text: qsTr("This copy of QuivraMac was built without its own Eternal Terminal server, "
                 + "which keeps your iPhone's sessions alive. Install Eternal Terminal once: "
-                + "QuivraMac finds its etserver on your PATH."
+                + "QuivraMac finds its etserver on your PATH.")
             font.pixelSize: 13
             color: Theme.textSecondary
         }
@@ -42,8 +42,8 @@ ThemedSurface {
             Layout.fillWidth: true
             wrapMode: Text.Wrap
             text: sheet.command
-                ? "1. Run this in a terminal:"
-                : "1. Build and install it from source, as the download page describes."
+                ? qsTr("1. Run this in a terminal:")
+                : qsTr("1. Build and install it from source, as the download page describes.")
             font.pixelSize: 13
             color: Theme.text
         }
@@ -58,7 +58,7 @@ ThemedSurface {
             textFormat: Text.PlainText
             Layout.fillWidth: true
             wrapMode: Text.Wrap
-            text: "2. Turn on the server with the switch in the QuivraMac panel."
+            text: qsTr("2. Turn on the server with the switch in the QuivraMac panel.")
             font.pixelSize: 13
             color: Theme.text
         }
@@ -68,14 +68,14 @@ ThemedSurface {
             Button {
                 id: openDownloadPage
                 objectName: "openDownloadPage"
-                text: "Open Download Page"
+                text: qsTr("Open Download Page")
                 onClicked: Qt.openUrlExternally(sheet.downloadPage)
             }
             Item { Layout.fillWidth: true }
             Button {
                 id: doneButton
                 objectName: "installDone"
-                text: "Done"
+                text: qsTr("Done")
                 highlighted: true
                 onClicked: sheet.done()
                 // Tab goes round the sheet's own controls while it is open.

@@ -7,7 +7,7 @@ import QuivraMac.Ui
 LinkButton {
     id: link
     objectName: "installEtLink"
-    text: "How to install Eternal Terminal..."
+    text: qsTr("How to install Eternal Terminal...")
     pixelSize: 13
     onClicked: showSteps()
     function showSteps() { sheet.open() }

@@ -15,7 +15,7 @@ ColumnLayout {
         Layout.topMargin: 16
         Text {
             textFormat: Text.PlainText
-            text: "Server Logs"
+            text: qsTr("Server Logs")
             font.pixelSize: 15
             font.weight: Font.DemiBold
             color: Theme.text
@@ -23,18 +23,18 @@ ColumnLayout {
         Item { Layout.fillWidth: true }
         AbstractButton {
             objectName: "clearButton"
-            text: "Clear"
+            text: qsTr("Clear")
             Accessible.name: text
-            contentItem: Text { textFormat: Text.PlainText; text: "Clear"; font.pixelSize: 13; color: Theme.textSecondary }
+            contentItem: Text { textFormat: Text.PlainText; text: qsTr("Clear"); font.pixelSize: 13; color: Theme.textSecondary }
             onClicked: Ui.clearLogs()
             FocusRing {}
         }
         AbstractButton {
             objectName: "copyButton"
-            text: "Copy"
+            text: qsTr("Copy")
             Accessible.name: text
             Layout.leftMargin: 12
-            contentItem: Text { textFormat: Text.PlainText; text: "Copy"; font.pixelSize: 13; color: Theme.accentColor }
+            contentItem: Text { textFormat: Text.PlainText; text: qsTr("Copy"); font.pixelSize: 13; color: Theme.accentColor }
             onClicked: Ui.copyText(ServerManager.logs)
             FocusRing {}
         }
@@ -67,7 +67,7 @@ ColumnLayout {
                 wrapMode: TextEdit.Wrap
                 font.family: Theme.monospace
                 font.pixelSize: 11
-                text: ServerManager.logs === "" ? "No logs yet..." : ServerManager.logs
+                text: ServerManager.logs === "" ? qsTr("No logs yet...") : ServerManager.logs
                 color: ServerManager.logs === "" ? Theme.textSecondary : Theme.text
             }
             Connections {

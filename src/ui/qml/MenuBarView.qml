@@ -25,7 +25,7 @@ ThemedSurface {
         MenuRowButton {
             objectName: "installEtRow"
             visible: Ui.etserverMissing
-            title: "How to install Eternal Terminal..."
+            title: qsTr("How to install Eternal Terminal...")
             symbol: "questionmark.circle"
             onClicked: Ui.openInstallSteps()
         }
@@ -36,22 +36,22 @@ ThemedSurface {
         MenuRowButton {
             objectName: "lastPairedRow"
             visible: Ui.devices.count > 0
-            title: "Last paired: " + Ui.devices.newestName
+            title: qsTr("Last paired: %1").arg(Ui.devices.newestName)
             symbol: "checkmark.circle.fill"
             onClicked: Ui.openSettings(Ui.DevicesTab)
         }
         Divider {}
         MenuRowButton {
-            title: "Setup Assistant..."
+            title: qsTr("Setup Assistant...")
             onClicked: Ui.openWindow("onboarding")
         }
         MenuRowButton {
-            title: "Settings..."
+            title: qsTr("Settings...")
             onClicked: Ui.openWindow("settings")
         }
         Divider {}
         MenuRowButton {
-            title: "Quit QuivraMac"
+            title: qsTr("Quit QuivraMac")
             onClicked: Ui.quit()
         }
     }

@@ -41,12 +41,15 @@ AbstractButton {
                 color: Theme.textSecondary
             }
         }
+        // Wrapped to the panel's width rather than widening it.
         Text {
             textFormat: Text.PlainText
+            Layout.fillWidth: true
+            Layout.preferredWidth: 0
+            wrapMode: Text.Wrap
             text: row.title
             font.pixelSize: 13
             color: Theme.text
         }
-        Item { Layout.fillWidth: true }
     }
 }

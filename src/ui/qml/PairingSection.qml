@@ -10,7 +10,7 @@ ColumnLayout {
     spacing: 8
     MenuRowButton {
         visible: !ServerManager.isPairing
-        title: "Pair New Device"
+        title: qsTr("Pair New Device")
         symbol: "iphone.gen3"
         onClicked: ServerManager.togglePairingMode()
     }
@@ -32,7 +32,7 @@ ColumnLayout {
             RowLayout {
                 Text {
                     textFormat: Text.PlainText
-                    text: "Pairing Mode"
+                    text: qsTr("Pairing Mode")
                     font.pixelSize: 11
                     font.weight: Font.Medium
                     color: Theme.textSecondary
@@ -82,16 +82,19 @@ ColumnLayout {
             }
             Text {
                 textFormat: Text.PlainText
-                text: "Enter this code in Quivra on your iPhone"
+                Layout.fillWidth: true
+                Layout.preferredWidth: 0
+                wrapMode: Text.Wrap
+                text: qsTr("Enter this code in Quivra on your iPhone")
                 font.pixelSize: 11
                 color: Theme.textSecondary
             }
             AbstractButton {
-                text: "Stop Pairing"
+                text: qsTr("Stop Pairing")
                 Accessible.name: text
                 contentItem: Text {
                     textFormat: Text.PlainText
-                    text: "Stop Pairing"
+                    text: qsTr("Stop Pairing")
                     font.pixelSize: 12
                     font.weight: Font.Medium
                     color: Theme.textSecondary

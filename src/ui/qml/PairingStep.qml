@@ -92,9 +92,9 @@ Item {
             Column {
                 Layout.alignment: Qt.AlignTop
                 spacing: 16
-                InstructionStep { number: 1; text: "Open Quivra on your iPhone" }
-                InstructionStep { number: 2; text: "Tap \"Add Mac\"" }
-                InstructionStep { number: 3; text: "Enter this code:" }
+                InstructionStep { number: 1; text: qsTr("Open Quivra on your iPhone") }
+                InstructionStep { number: 2; text: qsTr("Tap \"Add Mac\"") }
+                InstructionStep { number: 3; text: qsTr("Enter this code:") }
                 Row {
                     id: codeRow
                     objectName: "onboardingCode"
@@ -129,7 +129,7 @@ Item {
                     Accessible.role: Accessible.StaticText
                     Accessible.name: text
                     x: (codeRow.width - width) / 2
-                    text: "Expires in " + countdown.text
+                    text: qsTr("Expires in %1").arg(countdown.text)
                     font.pixelSize: 13
                     font.weight: countdown.urgent ? Font.Medium : Font.Normal
                     color: countdown.urgent ? Theme.orange : Theme.textSecondary
@@ -151,15 +151,15 @@ Item {
         Row {
             Layout.alignment: Qt.AlignHCenter
             spacing: 6
-            Text { textFormat: Text.PlainText; text: "Having trouble?"; font.pixelSize: 13; color: Theme.textSecondary }
+            Text { textFormat: Text.PlainText; text: qsTr("Having trouble?"); font.pixelSize: 13; color: Theme.textSecondary }
             AbstractButton {
                 id: manualLink
                 objectName: "manualSetupLink"
-                text: "Try manual setup"
+                text: qsTr("Try manual setup")
                 Accessible.name: text
                 onClicked: manual.open()
                 FocusRing { anchors.margins: -2; radius: 3 }
-                contentItem: Text { textFormat: Text.PlainText; text: "Try manual setup"; font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
+                contentItem: Text { textFormat: Text.PlainText; text: qsTr("Try manual setup"); font.pixelSize: 13; font.weight: Font.Medium; color: Theme.accentColor }
             }
         }
     }
@@ -176,7 +176,7 @@ Item {
             font.pixelSize: 20
             color: Theme.text
         }
-        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: "Exchanging keys..."; font.pixelSize: 14; color: Theme.textSecondary }
+        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: qsTr("Exchanging keys..."); font.pixelSize: 14; color: Theme.textSecondary }
     }
 
     Column {
@@ -198,8 +198,8 @@ Item {
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 12
-            OnboardingButton { title: "Back"; primary: false; onClicked: step.backClicked() }
-            OnboardingButton { id: retryButton; title: "Try Again"; onClicked: step.retry() }
+            OnboardingButton { title: qsTr("Back"); primary: false; onClicked: step.backClicked() }
+            OnboardingButton { id: retryButton; title: qsTr("Try Again"); onClicked: step.retry() }
         }
     }
 
@@ -218,13 +218,13 @@ Item {
         background: Rectangle { radius: 12; color: Theme.card }
         Column {
             spacing: 12
-            Text { textFormat: Text.PlainText; text: "Add this computer by hand"; font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
+            Text { textFormat: Text.PlainText; text: qsTr("Add this computer by hand"); font.pixelSize: 17; font.weight: Font.DemiBold; color: Theme.text }
             Text { textFormat: Text.PlainText; text: Ui.manualSetupDetails; font.family: Theme.monospace; font.pixelSize: 13; color: Theme.text }
             Row {
                 spacing: 12
                 OnboardingButton {
                     id: copyButton
-                    title: "Copy"
+                    title: qsTr("Copy")
                     primary: false
                     onClicked: Ui.copyText(Ui.manualSetupDetails)
                     KeyNavigation.tab: closeButton
@@ -233,7 +233,7 @@ Item {
                 OnboardingButton {
                     id: closeButton
                     objectName: "manualSetupClose"
-                    title: "Close"
+                    title: qsTr("Close")
                     onClicked: manual.close()
                     KeyNavigation.tab: copyButton
                     KeyNavigation.backtab: copyButton

@@ -26,8 +26,8 @@ ThemedSurface {
             Layout.topMargin: 8
             background: null
             Repeater {
-                model: [{ title: "General", symbol: "gear" }, { title: "Logs", symbol: "doc.text" },
-                        { title: "Devices", symbol: "iphone.gen3" }]
+                model: [{ title: qsTr("General"), symbol: "gear" }, { title: qsTr("Logs"), symbol: "doc.text" },
+                        { title: qsTr("Devices"), symbol: "iphone.gen3" }]
                 delegate: TabButton {
                     id: tab
                     required property var modelData

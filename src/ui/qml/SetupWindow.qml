@@ -39,7 +39,7 @@ Window {
             anchors.verticalCenter: parent.verticalCenter
             width: 14
             height: 14
-            Accessible.name: "Close"
+            Accessible.name: qsTr("Close")
             onClicked: window.close()
             FocusRing {}
             background: Rectangle {

@@ -40,7 +40,7 @@ Item {
             }
         }
         SymbolImage { anchors.right: parent.right; anchors.rightMargin: 22; name: "arrow.up"; size: 20; color: Theme.text }
-        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: "QuivraMac lives here"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.text }
+        Text { textFormat: Text.PlainText; anchors.horizontalCenter: parent.horizontalCenter; text: qsTr("QuivraMac lives here"); font.pixelSize: 14; font.weight: Font.Medium; color: Theme.text }
     }
 
     Shortcut {
@@ -59,7 +59,7 @@ Item {
             scale: step.checkmarkScale
             opacity: step.checkmarkOpacity
         }
-        Text { textFormat: Text.PlainText; Layout.alignment: Qt.AlignHCenter; text: "You're all set!"; font.pixelSize: 28; font.weight: Font.DemiBold; color: Theme.text }
+        Text { textFormat: Text.PlainText; Layout.alignment: Qt.AlignHCenter; text: qsTr("You're all set!"); font.pixelSize: 28; font.weight: Font.DemiBold; color: Theme.text }
         Text {
             textFormat: Text.PlainText
             objectName: "connectedText"
@@ -74,15 +74,15 @@ Item {
             spacing: 8
             CheckBox {
                 objectName: "launchAtLogin"
-                text: "Launch at login"
+                text: qsTr("Launch at login")
                 Accessible.name: text
                 font.pixelSize: 14
                 checked: Ui.launchAtLogin
                 onToggled: Ui.launchAtLogin = checked
             }
-            Text { textFormat: Text.PlainText; anchors.verticalCenter: parent.verticalCenter; text: "Recommended"; font.pixelSize: 12; color: Theme.textSecondary }
+            Text { textFormat: Text.PlainText; anchors.verticalCenter: parent.verticalCenter; text: qsTr("Recommended"); font.pixelSize: 12; color: Theme.textSecondary }
         }
-        OnboardingButton { id: doneButton; Layout.alignment: Qt.AlignHCenter; title: "Done"; onClicked: step.done() }
+        OnboardingButton { id: doneButton; Layout.alignment: Qt.AlignHCenter; title: qsTr("Done"); onClicked: step.done() }
     }
     ParallelAnimation {
         running: true

@@ -117,7 +117,7 @@ Item {
                     id: fixButton
                     objectName: "fixButton"
                     visible: SystemCheck.failedCanFix
-                    text: "Fix"
+                    text: qsTr("Fix")
                     Accessible.name: text
                     onClicked: SystemCheck.fix()
                     FocusRing {}
@@ -141,14 +141,14 @@ Item {
                 AbstractButton {
                     id: retryButton
                     anchors.verticalCenter: parent.verticalCenter
-                    text: "Try Again"
+                    text: qsTr("Try Again")
                     Accessible.name: text
                     onClicked: card.retry()
                     FocusRing {}
                     contentItem: Row {
                         spacing: 6
                         SymbolImage { anchors.verticalCenter: parent.verticalCenter; name: "arrow.clockwise"; size: 14; color: Theme.accentColor }
-                        Text { textFormat: Text.PlainText; text: "Try Again"; font.pixelSize: 14; font.weight: Font.Medium; color: Theme.accentColor }
+                        Text { textFormat: Text.PlainText; text: qsTr("Try Again"); font.pixelSize: 14; font.weight: Font.Medium; color: Theme.accentColor }
                     }
                 }
             }
@@ -224,7 +224,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24
-        title: SystemCheck.allPassed ? "Continue" : "Back"
+        title: SystemCheck.allPassed ? qsTr("Continue") : qsTr("Back")
         primary: SystemCheck.allPassed
         onClicked: SystemCheck.allPassed ? step.allPassedContinue() : step.backClicked()
     }

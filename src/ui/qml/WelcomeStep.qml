@@ -60,7 +60,9 @@ Item {
             textFormat: Text.PlainText
             Layout.topMargin: 8
             Layout.alignment: Qt.AlignHCenter
+            Layout.maximumWidth: 520
             horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
             text: Wording.welcomeBody
             font.pixelSize: 15
             lineHeight: 1.2
@@ -70,7 +72,7 @@ Item {
             id: continueButton
             Layout.topMargin: 48
             Layout.alignment: Qt.AlignHCenter
-            title: "Continue"
+            title: qsTr("Continue")
             onClicked: step.continueClicked()
         }
     }

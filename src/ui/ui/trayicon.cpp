@@ -24,16 +24,16 @@ TrayIcon::TrayIcon(QuivraMacApp *app, ServerManager *manager, WindowManager *win
     , m_host(QGuiApplication::platformName() == QLatin1String("xcb")
              || QGuiApplication::platformName() == QLatin1String("cocoa"))
 {
-    m_menu.addAction(QStringLiteral("Open"), this, &TrayIcon::openPanel);
-    m_menu.addAction(QStringLiteral("Pair New Device"), this, [this] {
+    m_menu.addAction(tr("Open"), this, &TrayIcon::openPanel);
+    m_menu.addAction(tr("Pair New Device"), this, [this] {
         if (!m_manager->isPairing())
             m_manager->togglePairingMode();
         openPanel();
     });
-    m_menu.addAction(QStringLiteral("Settings..."), this,
+    m_menu.addAction(tr("Settings..."), this,
                      [this] { m_windows->open(QStringLiteral("settings")); });
     m_menu.addSeparator();
-    m_menu.addAction(QStringLiteral("Quit QuivraMac"), qApp, &QCoreApplication::quit);
+    m_menu.addAction(tr("Quit QuivraMac"), qApp, &QCoreApplication::quit);
 
     m_pairingTick.setInterval(1000);
     connect(&m_pairingTick, &QTimer::timeout, this, &TrayIcon::update);
@@ -98,16 +98,16 @@ QString TrayIcon::toolTip(const Status &status)
 {
     QString text = QStringLiteral("QuivraMac\n");
     if (status.running)
-        text += QStringLiteral("Server running on port %1").arg(status.port);
+        text += tr("Server running on port %1").arg(status.port);
     else if (!status.failure.isEmpty())
-        text += QStringLiteral("Server not running: ") + status.failure;
+        text += tr("Server not running: %1").arg(status.failure);
     else
-        text += QStringLiteral("Server off");
+        text += tr("Server off");
     if (!status.setUp)
-        text += QStringLiteral("\nSetup is not finished yet");
+        text += QLatin1Char('\n') + tr("Setup is not finished yet");
     if (status.secondsLeft >= 0)
-        text += QStringLiteral("\nPairing: the code expires in ")
-            + formats::countdown(status.secondsLeft);
+        text += QLatin1Char('\n')
+            + tr("Pairing: the code expires in %1").arg(formats::countdown(status.secondsLeft));
     return text;
 }
 

@@ -76,7 +76,7 @@ QString UiController::manualSetupDetails() const
 {
     if (!m_serverManager)
         return {};
-    return QStringLiteral("Address: %1\nUser: %2\nSSH port: %3\nEternal Terminal port: %4")
+    return tr("Address: %1\nUser: %2\nSSH port: %3\nEternal Terminal port: %4")
         .arg(m_serverManager->localIP(), userName(),
              QString::number(m_serverManager->environment().sshPort),
              QString::number(m_serverManager->port()));
@@ -151,8 +151,7 @@ QString UiController::guessingText(const QStringList &addresses) const
 
 QString UiController::deviceConnectingText(const QString &deviceName) const
 {
-    return QStringLiteral("<b>") + deviceName.toHtmlEscaped()
-        + QStringLiteral("</b> is connecting...");
+    return tr("<b>%1</b> is connecting...").arg(deviceName.toHtmlEscaped());
 }
 
 bool UiController::canMoveFocus()
