@@ -57,11 +57,7 @@ extern "C" Q_DECL_EXPORT int quivramacRunWithWindows(int *argc, char **argv)
             tray.showPanel();
     });
     // For the benchmarks, which have no way to click: the settings window on its Logs tab.
-    if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs")) {
-        windows.open(QStringLiteral("settings"));
-        if (auto *view = windows.window(QStringLiteral("settings"))
-                             ->findChild<QObject *>(QStringLiteral("settingsView")))
-            view->setProperty("selectedTab", 1);
-    }
+    if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs"))
+        ui.openSettings(UiController::LogsTab);
     return app.exec();
 }
