@@ -3,6 +3,7 @@
 #include "instance.h"
 #include "onboarding/onboardingflow.h"
 #include "onboarding/systemcheck.h"
+#include "panelprobe.h"
 #include "platform/logging.h"
 #include "platform/translations.h"
 #include "ui/trayicon.h"
@@ -48,13 +49,17 @@ extern "C" Q_DECL_EXPORT int quivramacRunWithWindows(int *argc, char **argv)
         windows.open(QStringLiteral("onboarding"));
     // After the first-run window, so that a panel opened as a window finds its place beside it.
     TrayIcon tray(&instance.app(), &manager, &windows);
-    const WindowService windowService([&tray] { tray.showPanel(); });
+    std::unique_ptr<PanelProbe> panelProbe;
+    if (const QString probe = qEnvironmentVariable("QUIVRA_BENCH_PANEL"); !probe.isEmpty())
+        panelProbe = std::make_unique<PanelProbe>(&windows, probe == QLatin1String("cold"));
+    const WindowService windowService([&tray, &panelProbe] {
+        if (panelProbe)
+            panelProbe->show([&tray] { tray.showPanel(); });
+        else
+            tray.showPanel();
+    });
     // For the benchmarks, which have no way to click: the settings window on its Logs tab.
-    if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs")) {
-        windows.open(QStringLiteral("settings"));
-        if (auto *view = windows.window(QStringLiteral("settings"))
-                             ->findChild<QObject *>(QStringLiteral("settingsView")))
-            view->setProperty("selectedTab", 1);
-    }
+    if (qEnvironmentVariable("QUIVRA_BENCH_WINDOW") == QLatin1String("logs"))
+        ui.openSettings(UiController::LogsTab);
     return app.exec();
 }

@@ -184,12 +184,14 @@ private Q_SLOTS:
 
     void advertisesThroughTheSystemDaemonUntilStopped()
     {
+        PairingListener listener({});
+        QSignalSpy advertised(&listener, &PairingListener::advertised);
+        // Before the daemon where the test starts one (and its bus): the listener registers as
+        // soon as it answers.
+        listener.start(0);
         testsupport::DnsSdDaemon daemon;
         if (const QString reason = daemon.ensureRunning(); !reason.isEmpty())
             QSKIP(qPrintable("DNS-SD not testable here: " + reason));
-        PairingListener listener({});
-        QSignalSpy advertised(&listener, &PairingListener::advertised);
-        listener.start(0);
         const quint16 port = listener.port();
         QVERIFY(advertised.wait(10000));
         const QString name = advertised.at(0).at(0).toString();

@@ -2,6 +2,8 @@
 #include "ui/devicelist.h"
 #include "ui/pairingcountdown.h"
 #include "ui/uicontroller.h"
+#include "ui/uptimewatch.h"
+#include "ui/windowmanager.h"
 
 #include <QClipboard>
 #include <QQmlComponent>
@@ -137,6 +139,8 @@ private Q_SLOTS:
         QTRY_VERIFY(text("uptimeText") != "0s");
 
         view->setProperty("selectedTab", 1);
+        // Behind another tab the uptime no longer wakes the app every second.
+        QTRY_VERIFY(!h().find<QObject>("uptimeText")->findChild<UptimeWatch *>()->isActive());
         h().manager().setLogs({});
         QCOMPARE(text("logsEnd"), "No logs yet...");
         // An empty log still replaces what the clipboard held before.
@@ -251,6 +255,51 @@ private Q_SLOTS:
         h().pairPhone("Ana's iPhone", QDate(2026, 11, 21)); // the message is history now
         QTRY_VERIFY(!h().find<QQuickItem>("revokeOutcome")->isVisible());
         QCOMPARE(DeviceList::shortFingerprint(fingerprint).size(), 7 + 12 + 1);
+    }
+
+    // A while after the last window closed the views' engine is let go; the panel opened after
+    // that loads again and shows the state of now, not the one it was closed with.
+    void panelReleasedWhileClosedOpensAgainUpToDate()
+    {
+        auto now = std::make_shared<std::chrono::steady_clock::time_point>();
+        WindowManager windows(
+            { &h().manager(), &h().app(), &h().ui(), &h().onboarding(), &h().systemCheck() },
+            [now] { return *now; }, std::chrono::milliseconds(5));
+        const auto shown = [&](const char *name) {
+            auto *item = windows.window("panel")->findChild<QQuickItem *>(name);
+            return item && item->isVisible() ? item : nullptr;
+        };
+        windows.openPanelAsWindow();
+        QTRY_VERIFY(windows.isPanelVisible());
+        QCOMPARE(shown("serverStatus")->property("text").toString(), "Server off");
+        QVERIFY(!shown("codeBoxes"));
+        QSignalSpy released(&windows, &WindowManager::released);
+        windows.openPanelAsWindow();
+        windows.open("settings");
+        windows.window("panel")->close();
+        // Not while a window shows.
+        windows.release();
+        QVERIFY(windows.hasEngine());
+        QVERIFY(windows.window("settings")->isVisible());
+        windows.window("settings")->close();
+        *now += WindowManager::releaseDelay;
+        QVERIFY(released.wait());
+        QVERIFY(!windows.hasEngine());
+        QVERIFY(!windows.window("panel"));
+
+        h().manager().startServer();
+        h().manager().togglePairingMode();
+        windows.openPanelAsWindow();
+        QTRY_VERIFY(windows.isPanelVisible());
+        QVERIFY(windows.hasEngine());
+        QCOMPARE(shown("serverStatus")->property("text").toString(), "Port 2022");
+        QString code;
+        for (QQuickItem *box : shown("codeBoxes")->childItems()) {
+            if (!box->childItems().isEmpty())
+                code += box->childItems().constFirst()->property("text").toString();
+        }
+        QCOMPARE(code, h().manager().pairingToken());
+        windows.window("panel")->close();
     }
 
     // A phone names itself: a tag in its name is shown as typed, and an image it names is never

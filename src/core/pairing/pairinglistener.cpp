@@ -68,8 +68,8 @@ void PairingListener::start(quint16 port, bool advertise)
         && !m_advertiser.advertise(name, QStringLiteral("_quivra-terminal._tcp"), m_port)) {
         advertising = false;
         qCInfo(lcConsole).nospace().noquote()
-            << QStringLiteral("PairingListener not advertised yet (%1); asking the DNS-SD "
-                              "daemon again every second")
+            << QStringLiteral("PairingListener not advertised yet (%1); registering once the "
+                              "DNS-SD daemon answers")
                    .arg(m_advertiser.errorString());
     }
     qCInfo(lcConsole).nospace().noquote()

@@ -13,11 +13,15 @@ DnsSdAdvertiser::DnsSdAdvertiser(QObject *parent)
     // Avahi's compatibility layer otherwise prints a warning to stderr on first use.
     qputenv("AVAHI_COMPAT_NOWARN", "1");
     m_retry.setSingleShot(true);
-    m_retry.setInterval(retryInterval);
     connect(&m_retry, &QTimer::timeout, this, [this] {
         release();
         if (m_wanted)
             registerService(true);
+    });
+    connect(&m_daemon, &DnsSdDaemonWatch::mayHaveStarted, this, [this] {
+        m_nextRetry = retryInterval;
+        if (m_retry.isActive())
+            m_retry.start(0);
     });
 }
 
@@ -69,6 +73,8 @@ void DnsSdAdvertiser::withdraw()
 {
     m_wanted = false;
     m_retry.stop();
+    m_daemon.stop();
+    m_nextRetry = retryInterval;
     release();
 }
 
@@ -86,8 +92,11 @@ void DnsSdAdvertiser::release()
 void DnsSdAdvertiser::lost(const QString &error, bool announce)
 {
     m_error = error;
-    if (m_wanted)
-        m_retry.start();
+    if (m_wanted) {
+        m_retry.start(m_nextRetry);
+        m_nextRetry = std::min<std::chrono::milliseconds>(m_nextRetry * 2, longestRetryInterval);
+        m_daemon.start();
+    }
     if (!std::exchange(m_failing, true) && announce)
         Q_EMIT failed(m_error);
 }
@@ -96,6 +105,8 @@ void DnsSdAdvertiser::onRegisterReply(int code, const QString &name)
 {
     if (code == kDNSServiceErr_NoError) {
         m_failing = false;
+        m_nextRetry = retryInterval;
+        m_daemon.stop();
         Q_EMIT registered(name);
         return;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dnssddaemonwatch.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -15,14 +17,17 @@ namespace platform {
 // One DNS-SD service registration through the system's daemon (mDNSResponder on macOS, Avahi's
 // compatibility library on Linux). The daemon's socket is served by the Qt event loop. The
 // registration outlives the daemon: when it is not running yet, or goes away and comes back, the
-// service is registered again as soon as it answers.
+// service is registered again as soon as it answers. Waiting for it costs no wakeups: the daemon
+// is asked again when there is a sign of it, and otherwise after pauses that double up to minutes.
 class DnsSdAdvertiser : public QObject
 {
     Q_OBJECT
 
 public:
-    // How often a daemon that does not answer is asked again.
+    // The pause before a daemon that did not answer is asked again, doubled after each attempt
+    // that fails up to the longest; a sign of the daemon cuts it short.
     static constexpr std::chrono::milliseconds retryInterval { 1000 };
+    static constexpr std::chrono::minutes longestRetryInterval { 5 };
 
     explicit DnsSdAdvertiser(QObject *parent = nullptr);
     ~DnsSdAdvertiser() override;
@@ -57,6 +62,8 @@ private:
     bool m_wanted = false;
     bool m_failing = false;
     QTimer m_retry;
+    std::chrono::milliseconds m_nextRetry = retryInterval;
+    DnsSdDaemonWatch m_daemon;
 };
 
 } // namespace platform

@@ -114,9 +114,11 @@ ScrollView {
                     text: Ui.uptimeText(ServerManager.uptime)
                     font.pixelSize: 13
                     color: Theme.textSecondary
+                    // Not while another tab covers it: a tick nobody sees still wakes the app.
                     UptimeWatch {
                         manager: ServerManager
-                        active: ServerManager.isRunning && uptimeText.Window.window !== null
+                        active: ServerManager.isRunning && uptimeText.visible
+                                && uptimeText.Window.window !== null
                                 && uptimeText.Window.window.visible
                     }
                 }

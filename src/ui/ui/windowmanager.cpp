@@ -1,5 +1,7 @@
 #include "ui/windowmanager.h"
 
+#include "platform/logging.h"
+#include "platform/residentmemory.h"
 #include "ui/panelplacement.h"
 #include "ui/symbolprovider.h"
 
@@ -8,6 +10,7 @@
 #include <QQmlComponent>
 #include <QQuickWindow>
 #include <QScreen>
+#include <QTimer>
 
 // Generated with module QuivraMac.Ui. Referring to it keeps the module's type registration in
 // the static link; the engine runs it when a view first imports the module.
@@ -21,10 +24,14 @@ const QHash<QString, QString> sources {
 };
 }
 
-WindowManager::WindowManager(const ViewObjects &objects, QObject *parent)
+WindowManager::WindowManager(const ViewObjects &objects, ClockTimer::Clock clock,
+                             std::chrono::milliseconds longestSleep, QObject *parent)
     : QObject(parent)
     , m_objects(objects)
-{ }
+    , m_release(std::move(clock), longestSleep)
+{
+    connect(&m_release, &ClockTimer::timeout, this, &WindowManager::release);
+}
 
 WindowManager::~WindowManager()
 {
@@ -60,7 +67,41 @@ QQuickWindow *WindowManager::create(const QString &id)
     }
     window->QObject::setParent(this);
     m_windows.insert(id, window);
+    connect(window, &QWindow::visibleChanged, this, &WindowManager::followVisibility);
     return window;
+}
+
+bool WindowManager::anyVisible() const
+{
+    return std::any_of(
+        m_windows.cbegin(), m_windows.cend(),
+        [](const QPointer<QQuickWindow> &window) { return window && window->isVisible(); });
+}
+
+void WindowManager::followVisibility()
+{
+    if (anyVisible())
+        m_release.stop();
+    else if (m_engine && !m_release.isActive())
+        m_release.start(releaseDelay);
+}
+
+void WindowManager::release()
+{
+    m_release.stop();
+    if (!m_engine || anyVisible())
+        return;
+    // The windows before their engine, as in the destructor; each window takes its scene graph.
+    for (const QPointer<QQuickWindow> &window : std::as_const(m_windows))
+        delete window.get();
+    m_windows.clear();
+    m_engine.reset();
+    qCInfo(lcConsole).nospace().noquote() << "Windows closed a while ago: their memory is released";
+    // On the next turn, once the objects deleted later are gone too.
+    QTimer::singleShot(0, this, [this] {
+        platform::releaseUnusedMemory();
+        Q_EMIT released();
+    });
 }
 
 void WindowManager::open(const QString &id)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "server/clocktimer.h"
 #include "ui/viewobjects.h"
 
 #include <QHash>
@@ -8,20 +9,31 @@
 #include <QQuickWindow>
 #include <QRect>
 
+#include <chrono>
 #include <memory>
 
 class QQmlApplicationEngine;
 class QQmlEngine;
 
 // The app's windows by identifier: "panel", "onboarding" and "settings". The QML engine is made
-// when a window first opens, so an app with no window open stays small.
+// when a window first opens and let go again a while after the last one closed, so an app that
+// sits in the tray unlooked-at stays small.
 class WindowManager : public QObject
 {
     Q_OBJECT
 
 public:
-    // The objects must outlive the manager: its windows read them until they close.
-    explicit WindowManager(const ViewObjects &objects, QObject *parent = nullptr);
+    // How long the windows stay loaded after the last one closed. A panel closed and clicked open
+    // again within half a minute (a second look, a menu entry after the item) opens warm; after
+    // that the user has moved on, and a tray app lives for days in the state it is left in.
+    static constexpr std::chrono::seconds releaseDelay { 30 };
+
+    // The objects must outlive the manager: its windows read them until they close. The release
+    // is measured on `clock`, looked at at least every `longestSleep` (tests move the clock).
+    explicit WindowManager(const ViewObjects &objects,
+                           ClockTimer::Clock clock = std::chrono::steady_clock::now,
+                           std::chrono::milliseconds longestSleep = releaseDelay,
+                           QObject *parent = nullptr);
     // The windows first, then their engine.
     ~WindowManager() override;
 
@@ -42,13 +54,25 @@ public:
     QQuickWindow *window(const QString &id) const { return m_windows.value(id); }
     bool hasEngine() const { return m_engine != nullptr; }
 
+    // Deletes the windows and their engine, with the engine's caches and the scene graph, and
+    // gives the freed memory back to the system; the next open() loads them again. Nothing
+    // happens while a window shows.
+    void release();
+
     // What every engine that loads the views needs before it loads anything.
     static void prepareEngine(QQmlEngine *engine, const ViewObjects &objects);
 
+Q_SIGNALS:
+    void released();
+
 private:
     QQuickWindow *create(const QString &id);
+    bool anyVisible() const;
+    // Counts down to the release while no window shows.
+    void followVisibility();
 
     ViewObjects m_objects;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QHash<QString, QPointer<QQuickWindow>> m_windows;
+    ClockTimer m_release;
 };
