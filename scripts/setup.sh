@@ -29,8 +29,8 @@ packages=(
     avahi-utils openssh-server openssh-client iproute2 util-linux curl xvfb xauth
     # tests of the desktop: a headless Wayland compositor, an X11 tray, X11 windows from outside
     weston trayer xdotool
-    # the Japanese screenshots: a font with its letters
-    fonts-ipafont-gothic
+    # the Japanese and Chinese screenshots: fonts with their letters
+    fonts-ipafont-gothic fonts-wqy-microhei
     # the app's own Eternal Terminal server, built from its source: its libraries, and git to
     # fetch the source where ../shared/et has none
     libsodium-dev libprotobuf-dev protobuf-compiler libutempter-dev libunwind-dev libssl-dev

@@ -768,6 +768,10 @@ Die Optionen eines Befehls zeigt „quivractl &lt;command&gt; --help“.
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac hat nicht geantwortet.</translation>
     </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac läuft ohne Bildschirm (zum Beispiel als Benutzerdienst) und hat daher hier kein Fenster anzuzeigen. Um es auf dieser Arbeitsfläche zu nutzen, beende diese Instanz und starte es von hier aus neu: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
 </context>
 <context>
     <name>wording</name>

@@ -755,6 +755,10 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
         <source>QuivraMac did not answer.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>wording</name>

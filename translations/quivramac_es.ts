@@ -768,6 +768,10 @@ Ejecuta «quivractl &lt;command&gt; --help» para ver las opciones de una orden.
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac no respondió.</translation>
     </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac se está ejecutando sin pantalla (como servicio de usuario, por ejemplo), así que no tiene ninguna ventana que mostrar aquí. Para usarlo en este escritorio, detén esa instancia y vuelve a iniciarlo desde aquí: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
 </context>
 <context>
     <name>wording</name>

@@ -768,6 +768,10 @@ Execute “quivractl &lt;command&gt; --help” para ver as opções de um comand
         <source>QuivraMac did not answer.</source>
         <translation>O QuivraMac não respondeu.</translation>
     </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>O QuivraMac está em execução sem tela (como serviço do usuário, por exemplo), então não tem janela para mostrar aqui. Para usá-lo nesta área de trabalho, pare essa instância e inicie-o novamente daqui: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
 </context>
 <context>
     <name>wording</name>

@@ -767,6 +767,10 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac 没有响应。</translation>
     </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac 正在无显示器的情况下运行（例如作为用户服务），因此这里没有可显示的窗口。要在此桌面上使用它，请停止该实例并从这里重新启动：systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
 </context>
 <context>
     <name>wording</name>
