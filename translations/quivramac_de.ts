@@ -774,6 +774,37 @@ Die Optionen eines Befehls zeigt „quivractl &lt;command&gt; --help“.
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>etserver konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>Port %1 wird bereits verwendet</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver wurde unerwartet beendet (Signal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver wurde unerwartet beendet (Exit-Code %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>; QuivraMac hat nach %1 Abbrüchen in %2 Minuten aufgehört, ihn neu zu starten</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

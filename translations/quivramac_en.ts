@@ -761,6 +761,37 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

@@ -774,6 +774,37 @@ Ejecuta «quivractl &lt;command&gt; --help» para ver las opciones de una orden.
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) no está instalado</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>No se pudo iniciar etserver: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>El puerto %1 está en uso</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver se detuvo inesperadamente (señal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver se detuvo inesperadamente (código de salida %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>; QuivraMac dejó de reiniciarlo tras %1 paradas en %2 minutos</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

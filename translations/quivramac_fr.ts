@@ -774,6 +774,37 @@ Lancez «&#xa0;quivractl &lt;command&gt; --help&#xa0;» pour les options d’une
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) n’est pas installé</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>etserver n’a pas pu être démarré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>Le port %1 est déjà utilisé</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver s’est arrêté de façon inattendue (signal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver s’est arrêté de façon inattendue (code de sortie %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>&#xa0;; QuivraMac a renoncé à le redémarrer après %1 arrêts en %2 minutes</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

@@ -773,6 +773,37 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) がインストールされていません</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>etserver を起動できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>ポート %1 は使用中です</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 は別のユーザのものです</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver が予期せず停止しました (シグナル %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver が予期せず停止しました (終了コード %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>。%2 分間に %1 回停止したため、QuivraMac は再起動をあきらめました</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

@@ -774,6 +774,37 @@ Execute “quivractl &lt;command&gt; --help” para ver as opções de um comand
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>O Eternal Terminal (etserver) não está instalado</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>Não foi possível iniciar o etserver: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>A porta %1 está em uso</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 pertence a outro usuário</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>O etserver parou inesperadamente (sinal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>O etserver parou inesperadamente (código de saída %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>; o QuivraMac desistiu de reiniciá-lo após %1 paradas em %2 minutos</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

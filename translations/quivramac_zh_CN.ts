@@ -773,6 +773,37 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     </message>
 </context>
 <context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>未安装 Eternal Terminal（etserver）</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>无法启动 etserver：%1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>端口 %1 已被占用</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 属于其他用户</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver 意外停止（信号 %1）</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver 意外停止（退出代码 %1）</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>；QuivraMac 在 %2 分钟内停止 %1 次后已放弃重新启动</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>
