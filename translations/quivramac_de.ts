@@ -805,6 +805,45 @@ Die Optionen eines Befehls zeigt „quivractl &lt;command&gt; --help“.
     </message>
 </context>
 <context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 ist ein Verweis; setze die Zugriffsrechte seines Ziels selbst</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 ist weder eine normale Datei noch ein Ordner; verschiebe es</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>%1 kann nicht untersucht werden</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 gehört jemand anderem (UID %2) und bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>Die Zugriffsrechte von %1 können nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>%1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 ist keine normale Datei; verschiebe sie</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

@@ -792,6 +792,45 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     </message>
 </context>
 <context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

@@ -805,6 +805,45 @@ Ejecuta «quivractl &lt;command&gt; --help» para ver las opciones de una orden.
     </message>
 </context>
 <context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 es un enlace; ajusta tú mismo los permisos de su destino</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 no es un archivo ni una carpeta normal; muévelo a otro sitio</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>No se puede abrir %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>No se puede examinar %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 pertenece a otra persona (uid %2); se deja como está</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>No se pueden cambiar los permisos de %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>No se puede crear %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 no es un archivo normal; muévelo a otro sitio</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

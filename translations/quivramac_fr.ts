@@ -805,6 +805,45 @@ Lancez «&#xa0;quivractl &lt;command&gt; --help&#xa0;» pour les options d’une
     </message>
 </context>
 <context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 est un lien&#xa0;; réglez vous-même les permissions de sa cible</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 n’est ni un fichier ni un dossier ordinaire&#xa0;; déplacez-le</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>Impossible d’ouvrir %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>Impossible d’examiner %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 appartient à quelqu’un d’autre (uid %2)&#xa0;; il reste tel quel</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>Impossible de modifier les permissions de %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>Impossible de créer %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 n’est pas un fichier ordinaire&#xa0;; déplacez-le</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

@@ -804,6 +804,45 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     </message>
 </context>
 <context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 はリンクです。リンク先のアクセス権はご自身で設定してください</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 は通常のファイルでもフォルダでもありません。別の場所へ移動してください</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>%1 を開けません</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>%1 を調べられません</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 は別のユーザ (uid %2) のものです。そのままにします</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>%1 のアクセス権を変更できません</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>%1 を作成できません</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 は通常のファイルではありません。別の場所へ移動してください</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>

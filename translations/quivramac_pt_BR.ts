@@ -805,6 +805,45 @@ Execute “quivractl &lt;command&gt; --help” para ver as opções de um comand
     </message>
 </context>
 <context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 é um link; ajuste você mesmo as permissões do destino</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 não é um arquivo nem uma pasta comum; mova-o para outro lugar</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>Não é possível abrir %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>Não é possível examinar %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 pertence a outra pessoa (uid %2); ele fica como está</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>Não é possível alterar as permissões de %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>Não é possível criar %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 não é um arquivo comum; mova-o para outro lugar</translation>
+    </message>
+</context>
+<context>
     <name>wording</name>
     <message>
         <source>QuivraMac Setup</source>
