@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>Port %1 wird bereits verwendet, daher können keine Telefone gekoppelt werden</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Telefone können nicht gekoppelt werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>

@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>

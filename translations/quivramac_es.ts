@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>El puerto %1 está en uso, así que los teléfonos no pueden vincularse</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Los teléfonos no pueden vincularse: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>

@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>Le port %1 est déjà utilisé, les téléphones ne peuvent donc pas s’associer</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Les téléphones ne peuvent pas s’associer&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>

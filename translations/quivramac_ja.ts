@@ -317,6 +317,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>ポート %1 が使用中のため、電話をペアリングできません</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>電話をペアリングできません: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>

@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>A porta %1 está em uso, então os telefones não podem parear</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Os telefones não podem parear: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>

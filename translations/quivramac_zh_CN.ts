@@ -317,6 +317,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>端口 %1 已被占用，因此手机无法配对</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>手机无法配对：%1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
