@@ -31,8 +31,8 @@ packages=(
     weston trayer xdotool
     # the screen reader's view: the accessibility bus and a client that walks it
     at-spi2-core python3-pyatspi
-    # the Japanese screenshots: a font with its letters
-    fonts-ipafont-gothic
+    # the Japanese and Chinese screenshots: fonts with their letters
+    fonts-ipafont-gothic fonts-wqy-microhei
     # the app's own Eternal Terminal server, built from its source: its libraries, and git to
     # fetch the source where ../shared/et has none
     libsodium-dev libprotobuf-dev protobuf-compiler libutempter-dev libunwind-dev libssl-dev

@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>Port %1 wird bereits verwendet, daher können keine Telefone gekoppelt werden</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Telefone können nicht gekoppelt werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
@@ -767,6 +778,80 @@ Die Optionen eines Befehls zeigt „quivractl &lt;command&gt; --help“.
     <message>
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac läuft ohne Bildschirm (zum Beispiel als Benutzerdienst) und hat daher hier kein Fenster anzuzeigen. Um es auf dieser Arbeitsfläche zu nutzen, beende diese Instanz und starte es von hier aus neu: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>etserver konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>Port %1 wird bereits verwendet</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver wurde unerwartet beendet (Signal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver wurde unerwartet beendet (Exit-Code %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>; QuivraMac hat nach %1 Abbrüchen in %2 Minuten aufgehört, ihn neu zu starten</translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 ist ein Verweis; setze die Zugriffsrechte seines Ziels selbst</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 ist weder eine normale Datei noch ein Ordner; verschiebe es</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>%1 kann nicht untersucht werden</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 gehört jemand anderem (UID %2) und bleibt unverändert</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>Die Zugriffsrechte von %1 können nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>%1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 ist keine normale Datei; verschiebe sie</translation>
     </message>
 </context>
 <context>

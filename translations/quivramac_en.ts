@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
@@ -753,6 +764,80 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     </message>
     <message>
         <source>QuivraMac did not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

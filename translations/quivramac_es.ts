@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>El puerto %1 está en uso, así que los teléfonos no pueden vincularse</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Los teléfonos no pueden vincularse: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
@@ -767,6 +778,80 @@ Ejecuta «quivractl &lt;command&gt; --help» para ver las opciones de una orden.
     <message>
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac no respondió.</translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac se está ejecutando sin pantalla (como servicio de usuario, por ejemplo), así que no tiene ninguna ventana que mostrar aquí. Para usarlo en este escritorio, detén esa instancia y vuelve a iniciarlo desde aquí: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) no está instalado</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>No se pudo iniciar etserver: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>El puerto %1 está en uso</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver se detuvo inesperadamente (señal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver se detuvo inesperadamente (código de salida %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>; QuivraMac dejó de reiniciarlo tras %1 paradas en %2 minutos</translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 es un enlace; ajusta tú mismo los permisos de su destino</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 no es un archivo ni una carpeta normal; muévelo a otro sitio</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>No se puede abrir %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>No se puede examinar %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 pertenece a otra persona (uid %2); se deja como está</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>No se pueden cambiar los permisos de %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>No se puede crear %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 no es un archivo normal; muévelo a otro sitio</translation>
     </message>
 </context>
 <context>

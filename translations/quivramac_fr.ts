@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Copied!</source>
-        <translation>Copié !</translation>
+        <translation>Copié&#xa0;!</translation>
     </message>
     <message>
         <source>Copy to Clipboard</source>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Revoke “%1”? It will no longer be able to log in to this computer.</source>
-        <translation>Révoquer « %1 » ? Il ne pourra plus se connecter à cet ordinateur.</translation>
+        <translation>Révoquer «&#xa0;%1&#xa0;»&#xa0;? Il ne pourra plus se connecter à cet ordinateur.</translation>
     </message>
     <message>
         <source>Revoke</source>
@@ -150,11 +150,11 @@
     </message>
     <message>
         <source>This copy of QuivraMac was built without its own Eternal Terminal server, which keeps your iPhone&apos;s sessions alive. Install Eternal Terminal once: QuivraMac finds its etserver on your PATH.</source>
-        <translation>Cette copie de QuivraMac a été compilée sans son propre serveur Eternal Terminal, qui maintient les sessions de votre iPhone. Installez Eternal Terminal une fois : QuivraMac trouvera son etserver dans votre PATH.</translation>
+        <translation>Cette copie de QuivraMac a été compilée sans son propre serveur Eternal Terminal, qui maintient les sessions de votre iPhone. Installez Eternal Terminal une fois&#xa0;: QuivraMac trouvera son etserver dans votre PATH.</translation>
     </message>
     <message>
         <source>1. Run this in a terminal:</source>
-        <translation>1. Exécutez ceci dans un terminal :</translation>
+        <translation>1. Exécutez ceci dans un terminal&#xa0;:</translation>
     </message>
     <message>
         <source>1. Build and install it from source, as the download page describes.</source>
@@ -207,7 +207,7 @@
     </message>
     <message>
         <source>Last paired: %1</source>
-        <translation>Dernier associé : %1</translation>
+        <translation>Dernier associé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Setup Assistant...</source>
@@ -274,11 +274,11 @@
     </message>
     <message>
         <source>Tap &quot;Add Mac&quot;</source>
-        <translation>Touchez « Add Mac »</translation>
+        <translation>Touchez «&#xa0;Add Mac&#xa0;»</translation>
     </message>
     <message>
         <source>Enter this code:</source>
-        <translation>Saisissez ce code :</translation>
+        <translation>Saisissez ce code&#xa0;:</translation>
     </message>
     <message>
         <source>Expires in %1</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Having trouble?</source>
-        <translation>Un problème ?</translation>
+        <translation>Un problème&#xa0;?</translation>
     </message>
     <message>
         <source>Try manual setup</source>
@@ -315,6 +315,17 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>Le port %1 est déjà utilisé, les téléphones ne peuvent donc pas s’associer</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Les téléphones ne peuvent pas s’associer&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -347,7 +358,7 @@
     </message>
     <message>
         <source>You&apos;re all set!</source>
-        <translation>Tout est prêt !</translation>
+        <translation>Tout est prêt&#xa0;!</translation>
     </message>
     <message>
         <source>Launch at login</source>
@@ -366,7 +377,7 @@
     <name>SystemCheck</name>
     <message>
         <source>Looking good!</source>
-        <translation>Tout va bien !</translation>
+        <translation>Tout va bien&#xa0;!</translation>
     </message>
     <message>
         <source>Almost there...</source>
@@ -468,7 +479,7 @@
     </message>
     <message>
         <source>Server not running: %1</source>
-        <translation>Serveur arrêté : %1</translation>
+        <translation>Serveur arrêté&#xa0;: %1</translation>
     </message>
     <message>
         <source>Server off</source>
@@ -480,7 +491,7 @@
     </message>
     <message>
         <source>Pairing: the code expires in %1</source>
-        <translation>Association : le code expire dans %1</translation>
+        <translation>Association&#xa0;: le code expire dans %1</translation>
     </message>
 </context>
 <context>
@@ -490,10 +501,10 @@
 User: %2
 SSH port: %3
 Eternal Terminal port: %4</source>
-        <translation>Adresse : %1
-Utilisateur : %2
-Port SSH : %3
-Port Eternal Terminal : %4</translation>
+        <translation>Adresse&#xa0;: %1
+Utilisateur&#xa0;: %2
+Port SSH&#xa0;: %3
+Port Eternal Terminal&#xa0;: %4</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; is connecting...</source>
@@ -530,11 +541,11 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>The status endpoint did not answer (%1); is the server running?</source>
-        <translation>Le point d’accès d’état n’a pas répondu (%1) ; le serveur est-il en cours ?</translation>
+        <translation>Le point d’accès d’état n’a pas répondu (%1)&#xa0;; le serveur est-il en cours&#xa0;?</translation>
     </message>
     <message>
         <source>Server:       %1</source>
-        <translation>Serveur :     %1</translation>
+        <translation>Serveur&#xa0;:     %1</translation>
     </message>
     <message>
         <source>running, up %1</source>
@@ -546,19 +557,19 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>Reason:       %1</source>
-        <translation>Raison :      %1</translation>
+        <translation>Raison&#xa0;:      %1</translation>
     </message>
     <message>
         <source>Port:         %1</source>
-        <translation>Port :        %1</translation>
+        <translation>Port&#xa0;:        %1</translation>
     </message>
     <message>
         <source>Address:      %1</source>
-        <translation>Adresse :     %1</translation>
+        <translation>Adresse&#xa0;:     %1</translation>
     </message>
     <message>
         <source>Pairing:      %1</source>
-        <translation>Association : %1</translation>
+        <translation>Association&#xa0;: %1</translation>
     </message>
     <message>
         <source>on</source>
@@ -570,7 +581,7 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>Last paired:  %1</source>
-        <translation>Dernier :     %1</translation>
+        <translation>Dernier&#xa0;:     %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -582,19 +593,19 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>The server did not start: %1</source>
-        <translation>Le serveur n’a pas démarré : %1</translation>
+        <translation>Le serveur n’a pas démarré&#xa0;: %1</translation>
     </message>
     <message>
         <source>it stopped; see quivractl logs</source>
-        <translation>il s’est arrêté ; voir quivractl logs</translation>
+        <translation>il s’est arrêté&#xa0;; voir quivractl logs</translation>
     </message>
     <message>
         <source>The server is running but port %1 did not accept connections within %2 s; see quivractl logs</source>
-        <translation>Le serveur est en cours, mais le port %1 n’a pas accepté de connexion en %2 s ; voir quivractl logs</translation>
+        <translation>Le serveur est en cours, mais le port %1 n’a pas accepté de connexion en %2 s&#xa0;; voir quivractl logs</translation>
     </message>
     <message>
         <source>The server did not stop within %1 s; see quivractl logs</source>
-        <translation>Le serveur ne s’est pas arrêté en %1 s ; voir quivractl logs</translation>
+        <translation>Le serveur ne s’est pas arrêté en %1 s&#xa0;; voir quivractl logs</translation>
     </message>
     <message>
         <source>Server stopped</source>
@@ -602,7 +613,7 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>The server is not running, so no phone can pair. Start it with: quivractl start</source>
-        <translation>Le serveur n’est pas en cours, aucun téléphone ne peut donc s’associer. Démarrez-le avec : quivractl start</translation>
+        <translation>Le serveur n’est pas en cours, aucun téléphone ne peut donc s’associer. Démarrez-le avec&#xa0;: quivractl start</translation>
     </message>
     <message>
         <source>The server is not running (%1), so no phone can pair.</source>
@@ -610,11 +621,11 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>Pairing code: %1</source>
-        <translation>Code d’association : %1</translation>
+        <translation>Code d’association&#xa0;: %1</translation>
     </message>
     <message>
         <source>Address: %1</source>
-        <translation>Adresse : %1</translation>
+        <translation>Adresse&#xa0;: %1</translation>
     </message>
     <message>
         <source>Open Quivra on your iPhone and enter the code. Ctrl-C cancels.</source>
@@ -658,7 +669,7 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>Revoke &quot;%1&quot;? It will no longer be able to log in to this computer. [y/N] </source>
-        <translation>Révoquer « %1 » ? Il ne pourra plus se connecter à cet ordinateur. [y/N] </translation>
+        <translation>Révoquer «&#xa0;%1&#xa0;»&#xa0;? Il ne pourra plus se connecter à cet ordinateur. [y/N] </translation>
     </message>
     <message>
         <source>Nothing revoked.</source>
@@ -666,15 +677,15 @@ Port Eternal Terminal : %4</translation>
     </message>
     <message>
         <source>No session bus, so QuivraMac cannot be reached. Run quivractl in the same login session as the app.</source>
-        <translation>Pas de bus de session : QuivraMac est injoignable. Lancez quivractl dans la même session que l’application.</translation>
+        <translation>Pas de bus de session&#xa0;: QuivraMac est injoignable. Lancez quivractl dans la même session que l’application.</translation>
     </message>
     <message>
         <source>QuivraMac is not running. Start it with &quot;quivramac&quot; or &quot;systemctl --user start quivramac&quot;.</source>
-        <translation>QuivraMac n’est pas lancé. Démarrez-le avec « quivramac » ou « systemctl --user start quivramac ».</translation>
+        <translation>QuivraMac n’est pas lancé. Démarrez-le avec «&#xa0;quivramac&#xa0;» ou «&#xa0;systemctl --user start quivramac&#xa0;».</translation>
     </message>
     <message>
         <source>QuivraMac did not answer: %1</source>
-        <translation>QuivraMac n’a pas répondu : %1</translation>
+        <translation>QuivraMac n’a pas répondu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Show the server (and why it is not running), its address, pairing mode and the last paired phone.</source>
@@ -715,11 +726,11 @@ Controls the running QuivraMac app.
 
 Commands:
 </source>
-        <translation>Utilisation : quivractl &lt;command&gt; [options]
+        <translation>Utilisation&#xa0;: quivractl &lt;command&gt; [options]
 
 Contrôle l’application QuivraMac en cours.
 
-Commandes :
+Commandes&#xa0;:
 </translation>
     </message>
     <message>
@@ -727,13 +738,13 @@ Commandes :
 Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
 </source>
         <translation>
-Lancez « quivractl &lt;command&gt; --help » pour les options d’une commande.
+Lancez «&#xa0;quivractl &lt;command&gt; --help&#xa0;» pour les options d’une commande.
 </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.
 </source>
-        <translation>Commande inconnue « %1 ».
+        <translation>Commande inconnue «&#xa0;%1&#xa0;».
 </translation>
     </message>
     <message>
@@ -755,18 +766,92 @@ Lancez « quivractl &lt;command&gt; --help » pour les options d’une commande.
     <message>
         <source>Which phone? Give its name or fingerprint (see quivractl devices).
 </source>
-        <translation>Quel téléphone ? Indiquez son nom ou son empreinte (voir quivractl devices).
+        <translation>Quel téléphone&#xa0;? Indiquez son nom ou son empreinte (voir quivractl devices).
 </translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.
 </source>
-        <translation>Argument inattendu « %1 ».
+        <translation>Argument inattendu «&#xa0;%1&#xa0;».
 </translation>
     </message>
     <message>
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac n’a pas répondu.</translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac fonctionne sans affichage (comme service utilisateur, par exemple) et n’a donc aucune fenêtre à montrer ici. Pour l’utiliser sur ce bureau, arrêtez cette instance et relancez-la d’ici&#xa0;: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) n’est pas installé</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>etserver n’a pas pu être démarré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>Le port %1 est déjà utilisé</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver s’est arrêté de façon inattendue (signal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver s’est arrêté de façon inattendue (code de sortie %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>&#xa0;; QuivraMac a renoncé à le redémarrer après %1 arrêts en %2 minutes</translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 est un lien&#xa0;; réglez vous-même les permissions de sa cible</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 n’est ni un fichier ni un dossier ordinaire&#xa0;; déplacez-le</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>Impossible d’ouvrir %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>Impossible d’examiner %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 appartient à quelqu’un d’autre (uid %2)&#xa0;; il reste tel quel</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>Impossible de modifier les permissions de %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>Impossible de créer %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 n’est pas un fichier ordinaire&#xa0;; déplacez-le</translation>
     </message>
 </context>
 <context>
@@ -821,7 +906,7 @@ entre votre iPhone et cet ordinateur.</translation>
     </message>
     <message>
         <source>Your computer is on &quot;%1&quot;. Make sure your iPhone is on the same network.</source>
-        <translation>Votre ordinateur est sur « %1 ». Vérifiez que votre iPhone est sur le même réseau.</translation>
+        <translation>Votre ordinateur est sur «&#xa0;%1&#xa0;». Vérifiez que votre iPhone est sur le même réseau.</translation>
     </message>
     <message>
         <source>Your iPhone couldn&apos;t reach this computer.</source>
@@ -837,11 +922,11 @@ entre votre iPhone et cet ordinateur.</translation>
     </message>
     <message>
         <source>SSH server is installed but not running. Start it with:</source>
-        <translation>Le serveur SSH est installé mais arrêté. Démarrez-le avec :</translation>
+        <translation>Le serveur SSH est installé mais arrêté. Démarrez-le avec&#xa0;:</translation>
     </message>
     <message>
         <source>SSH server is not installed. Install it with:</source>
-        <translation>Le serveur SSH n’est pas installé. Installez-le avec :</translation>
+        <translation>Le serveur SSH n’est pas installé. Installez-le avec&#xa0;:</translation>
     </message>
     <message>
         <source>SSH server is not installed. Install and start OpenSSH&apos;s sshd.</source>
@@ -897,7 +982,7 @@ entre votre iPhone et ce Mac.</translation>
     </message>
     <message>
         <source>Your Mac is on &quot;%1&quot;. Make sure your iPhone is on the same network.</source>
-        <translation>Votre Mac est sur « %1 ». Vérifiez que votre iPhone est sur le même réseau.</translation>
+        <translation>Votre Mac est sur «&#xa0;%1&#xa0;». Vérifiez que votre iPhone est sur le même réseau.</translation>
     </message>
     <message>
         <source>Your iPhone couldn&apos;t reach this Mac.</source>

@@ -317,6 +317,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>ポート %1 が使用中のため、電話をペアリングできません</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>電話をペアリングできません: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
@@ -766,6 +777,80 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     <message>
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac が応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac はディスプレイなしで実行されているため (ユーザサービスとしてなど)、ここに表示するウインドウがありません。このデスクトップで使うには、そのインスタンスを停止してここから起動し直してください: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>Eternal Terminal (etserver) がインストールされていません</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>etserver を起動できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>ポート %1 は使用中です</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 は別のユーザのものです</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver が予期せず停止しました (シグナル %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver が予期せず停止しました (終了コード %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>。%2 分間に %1 回停止したため、QuivraMac は再起動をあきらめました</translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 はリンクです。リンク先のアクセス権はご自身で設定してください</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 は通常のファイルでもフォルダでもありません。別の場所へ移動してください</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>%1 を開けません</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>%1 を調べられません</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 は別のユーザ (uid %2) のものです。そのままにします</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>%1 のアクセス権を変更できません</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>%1 を作成できません</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 は通常のファイルではありません。別の場所へ移動してください</translation>
     </message>
 </context>
 <context>

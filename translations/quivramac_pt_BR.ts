@@ -318,6 +318,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>A porta %1 está em uso, então os telefones não podem parear</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>Os telefones não podem parear: %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
@@ -767,6 +778,80 @@ Execute “quivractl &lt;command&gt; --help” para ver as opções de um comand
     <message>
         <source>QuivraMac did not answer.</source>
         <translation>O QuivraMac não respondeu.</translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>O QuivraMac está em execução sem tela (como serviço do usuário, por exemplo), então não tem janela para mostrar aqui. Para usá-lo nesta área de trabalho, pare essa instância e inicie-o novamente daqui: systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>O Eternal Terminal (etserver) não está instalado</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>Não foi possível iniciar o etserver: %1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>A porta %1 está em uso</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 pertence a outro usuário</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>O etserver parou inesperadamente (sinal %1)</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>O etserver parou inesperadamente (código de saída %1)</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>; o QuivraMac desistiu de reiniciá-lo após %1 paradas em %2 minutos</translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 é um link; ajuste você mesmo as permissões do destino</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 não é um arquivo nem uma pasta comum; mova-o para outro lugar</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>Não é possível abrir %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>Não é possível examinar %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 pertence a outra pessoa (uid %2); ele fica como está</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>Não é possível alterar as permissões de %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>Não é possível criar %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 não é um arquivo comum; mova-o para outro lugar</translation>
     </message>
 </context>
 <context>

@@ -317,6 +317,17 @@
     </message>
 </context>
 <context>
+    <name>PhoneService</name>
+    <message>
+        <source>Port %1 is in use, so phones cannot pair</source>
+        <translation>端口 %1 已被占用，因此手机无法配对</translation>
+    </message>
+    <message>
+        <source>Phones cannot pair: %1</source>
+        <translation>手机无法配对：%1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsView</name>
     <message>
         <source>General</source>
@@ -766,6 +777,80 @@ Run &quot;quivractl &lt;command&gt; --help&quot; for a command&apos;s options.
     <message>
         <source>QuivraMac did not answer.</source>
         <translation>QuivraMac 没有响应。</translation>
+    </message>
+    <message>
+        <source>QuivraMac is running without a display (as the user service, for example), so it has no window to show here. To use it on this desktop, stop that instance and start it again from here: systemctl --user stop quivramac &amp;&amp; quivramac</source>
+        <translation>QuivraMac 正在无显示器的情况下运行（例如作为用户服务），因此这里没有可显示的窗口。要在此桌面上使用它，请停止该实例并从这里重新启动：systemctl --user stop quivramac &amp;&amp; quivramac</translation>
+    </message>
+</context>
+<context>
+    <name>serverfailure</name>
+    <message>
+        <source>Eternal Terminal (etserver) is not installed</source>
+        <translation>未安装 Eternal Terminal（etserver）</translation>
+    </message>
+    <message>
+        <source>etserver could not be started: %1</source>
+        <translation>无法启动 etserver：%1</translation>
+    </message>
+    <message>
+        <source>Port %1 is in use</source>
+        <translation>端口 %1 已被占用</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 属于其他用户</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (signal %1)</source>
+        <translation>etserver 意外停止（信号 %1）</translation>
+    </message>
+    <message>
+        <source>etserver stopped unexpectedly (exit code %1)</source>
+        <translation>etserver 意外停止（退出代码 %1）</translation>
+    </message>
+    <message>
+        <source>; QuivraMac gave up restarting it after %1 stops in %2 minutes</source>
+        <translation>；QuivraMac 在 %2 分钟内停止 %1 次后已放弃重新启动</translation>
+    </message>
+</context>
+<context>
+    <name>sshrepair</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is a link; set the permissions of what it points to yourself</source>
+        <translation>%1 是链接；请自行设置其指向目标的权限</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file or folder; move it aside</source>
+        <translation>%1 既不是普通文件也不是文件夹；请将其移走</translation>
+    </message>
+    <message>
+        <source>Cannot open %1</source>
+        <translation>无法打开 %1</translation>
+    </message>
+    <message>
+        <source>Cannot inspect %1</source>
+        <translation>无法检查 %1</translation>
+    </message>
+    <message>
+        <source>%1 belongs to someone else (uid %2); it is left as it is</source>
+        <translation>%1 属于其他人（uid %2）；保持原样</translation>
+    </message>
+    <message>
+        <source>Cannot change the permissions of %1</source>
+        <translation>无法更改 %1 的权限</translation>
+    </message>
+    <message>
+        <source>Cannot create %1</source>
+        <translation>无法创建 %1</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file; move it aside</source>
+        <translation>%1 不是普通文件；请将其移走</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@ int open()
     case WindowService::Answer::Shown:
         return Success;
     case WindowService::Answer::Headless:
-        err << WindowService::headlessMessage() << Qt::endl;
+        err << Text::tr(WindowService::headlessMessage().toUtf8().constData()) << Qt::endl;
         return Failed;
     case WindowService::Answer::NoAnswer:
         break;

@@ -56,7 +56,7 @@ private Q_SLOTS:
         m_manager.reset();
     }
 
-    void startsWithExactCommandLineAndMessages()
+    void startsWithExactCommandLine()
     {
         qputenv("FAKE_ETSERVER_OUTPUT", "ready\\n");
         ServerManager &manager = makeManager();
@@ -73,14 +73,6 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(QStringLiteral("/proc/%1/cwd").arg(manager.supervisor().pid()))
                      .symLinkTarget(),
                  QFileInfo(testsupport::fakeEtserverPath()).absolutePath());
-        QCOMPARE(logLines(manager).mid(0, 3),
-                 (QStringList { "[QuivraMac] Support dir: " + support,
-                                "[QuivraMac] FIFO path: /tmp/et.fifo (12 chars)",
-                                "[QuivraMac] Starting server on port 2022..." }));
-        QCOMPARE(console.lines().mid(0, 3),
-                 (QStringList {
-                     "App support directory: " + support, "FIFO path: /tmp/et.fifo (12 chars)",
-                     "Starting Quivra Server from " + testsupport::fakeEtserverPath() + "..." }));
         // The pairing listener starts alongside, so its lines may come before the child's.
         QVERIFY(console.lines().contains("[etserver] ready"));
     }
@@ -90,11 +82,8 @@ private Q_SLOTS:
         ServerEnvironment env = testsupport::environment(m_processes);
         env.locateExecutable = [] { return QString(); };
         ServerManager &manager = makeManager(env);
-        testsupport::ConsoleCapture console;
         manager.startServer();
         QVERIFY(!manager.isRunning());
-        QCOMPARE(manager.logs(), "[QuivraMac] Error: etserver binary not found in app bundle\n");
-        QCOMPARE(console.lines(), QStringList { "Error: etserver not found in bundle" });
         QCOMPARE(manager.supervisor().failure().kind, ServerFailure::NotInstalled);
         QCOMPARE(manager.failureReason(), "Eternal Terminal (etserver) is not installed");
     }

@@ -26,6 +26,9 @@ QString isolateHome()
     qputenv("XDG_CONFIG_HOME", (path + QStringLiteral("/.config")).toUtf8());
     qputenv("XDG_CACHE_HOME", (path + QStringLiteral("/.cache")).toUtf8());
     QStandardPaths::setTestModeEnabled(true);
+    // The app and quivractl the tests start speak the user's language; the tests read English.
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
     return path;
 }
 

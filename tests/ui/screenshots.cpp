@@ -222,14 +222,13 @@ int main(int argc, char *argv[])
         qCritical("usage: quivra-screenshots OUTPUT_FOLDER [LANGUAGE|CATALOGUE.qm]");
         return 2;
     }
-    if (const QString language = QString::fromLocal8Bit(argc == 3 ? argv[2] : "");
-        language.endsWith(".qm")) {
-        if (!translations::installFile(language)) {
-            qCritical("cannot load %s", argv[2]);
-            return 2;
-        }
-    } else if (!language.isEmpty()) {
-        translations::install(QLocale(language));
+    // As the app does, English's plural forms included.
+    const QString language = QString::fromLocal8Bit(argc == 3 ? argv[2] : "C");
+    const bool catalogue = language.endsWith(".qm");
+    translations::install(catalogue ? QLocale::c() : QLocale(language));
+    if (catalogue && !translations::installFile(language)) {
+        qCritical("cannot load %s", argv[2]);
+        return 2;
     }
     const QDir out(QString::fromLocal8Bit(argv[1]));
     QDir().mkpath(out.path());

@@ -1,4 +1,5 @@
 #include "platform/systeminfo.h"
+#include "platform/translations.h"
 #include "platform/userdefaults.h"
 #include "qmlharness.h"
 #include "ui/formats.h"
@@ -100,6 +101,11 @@ private Q_SLOTS:
         // The phone names itself: its name is never markup.
         QCOMPARE(ui.deviceConnectingText("Eve's <i>Phone</i> & co"),
                  "<b>Eve's &lt;i&gt;Phone&lt;/i&gt; &amp; co</b> is connecting...");
+
+        // English counts its guessers in its own plural forms, as the app installs them.
+        translations::install(QLocale::c());
+        QVERIFY(ui.guessingText({ "a", "b" }).endsWith("from a and 1 other address"));
+        QVERIFY(ui.guessingText({ "a", "b", "c" }).endsWith("from a and 2 other addresses"));
     }
 };
 

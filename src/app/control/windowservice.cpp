@@ -32,10 +32,12 @@ WindowService::Answer WindowService::askToShowPanel()
     return reply.arguments().value(0).toBool() ? Answer::Shown : Answer::Headless;
 }
 
+// English, as the console line it also is; quivractl shows it translated.
 QString WindowService::headlessMessage()
 {
-    return QStringLiteral(
+    return QStringLiteral(QT_TRANSLATE_NOOP(
+        "quivractl",
         "QuivraMac is running without a display (as the user service, for example), so it has no "
         "window to show here. To use it on this desktop, stop that instance and start it again "
-        "from here: systemctl --user stop quivramac && quivramac");
+        "from here: systemctl --user stop quivramac && quivramac"));
 }

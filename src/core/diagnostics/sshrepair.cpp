@@ -1,5 +1,6 @@
 #include "diagnostics/sshrepair.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -11,9 +12,16 @@
 namespace sshrepair {
 namespace {
 
+// The setup window shows these, in the user's language; `name` is a path.
+QString said(const char *text, const QString &name)
+{
+    return QCoreApplication::translate("sshrepair", text).arg(name);
+}
+
 QString failure(const QString &what)
 {
-    return what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errno));
+    return said(QT_TRANSLATE_NOOP("sshrepair", "%1: %2"), what)
+        .arg(QString::fromLocal8Bit(std::strerror(errno)));
 }
 
 // Holds a descriptor for the length of one repair.
@@ -36,13 +44,17 @@ QString refusal(int dirFd, const char *path, const QString &name)
     };
     if (::fstatat(dirFd, path, &info, AT_SYMLINK_NOFOLLOW) == 0) {
         if (S_ISLNK(info.st_mode))
-            return name
-                + QStringLiteral(" is a link; set the permissions of what it points to yourself");
+            return said(
+                QT_TRANSLATE_NOOP(
+                    "sshrepair", "%1 is a link; set the permissions of what it points to yourself"),
+                name);
         if (!S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode))
-            return name + QStringLiteral(" is not a regular file or folder; move it aside");
+            return said(
+                QT_TRANSLATE_NOOP("sshrepair", "%1 is not a regular file or folder; move it aside"),
+                name);
     }
     errno = error;
-    return failure(QStringLiteral("Cannot open ") + name);
+    return failure(said(QT_TRANSLATE_NOOP("sshrepair", "Cannot open %1"), name));
 }
 
 std::optional<QString> setMode(int fd, const QString &name, mode_t wanted)
@@ -51,13 +63,15 @@ std::optional<QString> setMode(int fd, const QString &name, mode_t wanted)
     {
     };
     if (::fstat(fd, &info) != 0)
-        return failure(QStringLiteral("Cannot inspect ") + name);
+        return failure(said(QT_TRANSLATE_NOOP("sshrepair", "Cannot inspect %1"), name));
     if (info.st_uid != ::getuid())
-        return name
-            + QStringLiteral(" belongs to someone else (uid %1); it is left as it is")
-                  .arg(info.st_uid);
+        return said(QT_TRANSLATE_NOOP("sshrepair",
+                                      "%1 belongs to someone else (uid %2); it is left as it is"),
+                    name)
+            .arg(info.st_uid);
     if ((info.st_mode & 07777) != wanted && ::fchmod(fd, wanted) != 0)
-        return failure(QStringLiteral("Cannot change the permissions of ") + name);
+        return failure(
+            said(QT_TRANSLATE_NOOP("sshrepair", "Cannot change the permissions of %1"), name));
     return std::nullopt;
 }
 
@@ -71,7 +85,7 @@ std::optional<QString> repair(const QString &home)
     Descriptor folder { ::open(dir.constData(), dirFlags) };
     if (folder.fd < 0 && errno == ENOENT) {
         if (::mkdir(dir.constData(), 0700) != 0 && errno != EEXIST)
-            return failure(QStringLiteral("Cannot create ~/.ssh"));
+            return failure(said(QT_TRANSLATE_NOOP("sshrepair", "Cannot create %1"), dirName));
         folder.fd = ::open(dir.constData(), dirFlags);
     }
     if (folder.fd < 0)
@@ -92,9 +106,10 @@ std::optional<QString> repair(const QString &home)
     {
     };
     if (::fstat(keys.fd, &info) != 0)
-        return failure(QStringLiteral("Cannot inspect ") + keysName);
+        return failure(said(QT_TRANSLATE_NOOP("sshrepair", "Cannot inspect %1"), keysName));
     if (!S_ISREG(info.st_mode))
-        return keysName + QStringLiteral(" is not a regular file; move it aside");
+        return said(QT_TRANSLATE_NOOP("sshrepair", "%1 is not a regular file; move it aside"),
+                    keysName);
     return setMode(keys.fd, keysName, 0600);
 }
 

@@ -35,13 +35,17 @@ void PhoneService::listen()
         qCInfo(lcLog).nospace().noquote()
             << "[QuivraMac] Bonjour listener started (iOS can discover)";
     } else {
-        problem = m_listener.serverError() == QAbstractSocket::AddressInUseError
-            ? QStringLiteral("Port %1 is in use, so phones cannot pair").arg(m_listener.port())
-            : QStringLiteral("Phones cannot pair: %1").arg(m_listener.errorString());
+        const bool portTaken = m_listener.serverError() == QAbstractSocket::AddressInUseError;
+        const char *reason = portTaken ? QT_TR_NOOP("Port %1 is in use, so phones cannot pair")
+                                       : QT_TR_NOOP("Phones cannot pair: %1");
+        const QString detail =
+            portTaken ? QString::number(m_listener.port()) : m_listener.errorString();
+        // Shown in the user's language, logged in English.
+        problem = tr(reason).arg(detail);
         if (problem != m_problem)
             qCInfo(lcLog).nospace().noquote()
                 << QStringLiteral("[QuivraMac] %1; trying again every %2 s")
-                       .arg(problem)
+                       .arg(QString::fromUtf8(reason).arg(detail))
                        .arg(retryInterval.count());
         m_retry.start(retryInterval);
     }

@@ -32,7 +32,8 @@ public:
     // The pairing port, the system's choice when the environment asked for any.
     quint16 port() const { return m_listener.port(); }
     bool isListening() const { return m_listener.isListening(); }
-    // Why phones cannot reach this computer, while the listener retries; empty otherwise.
+    // Why phones cannot reach this computer, in the user's language, while the listener retries;
+    // empty otherwise.
     QString problem() const { return m_problem; }
     // The address phones are told to use, worked out again whenever the machine's addresses
     // change and when the user switches pairing on.

@@ -24,8 +24,9 @@ struct ServerFailure
 
 namespace serverfailure {
 
-// The reason in plain words, for the panel, the settings, quivractl and the session bus; empty
-// for None.
-QString describe(const ServerFailure &failure, int port, const QString &fifo);
+// The reason in plain words, empty for None: in the user's language for the panel, the settings,
+// quivractl and the session bus (`translated`), in English for the log.
+QString describe(const ServerFailure &failure, int port, const QString &fifo,
+                 bool translated = false);
 
 } // namespace serverfailure

@@ -69,7 +69,7 @@ void ServerManager::setLogs(const QString &logs)
 
 void ServerManager::updateFailureReason()
 {
-    QString reason = m_server.failureReason();
+    QString reason = m_server.failureReason(true);
     if (reason.isEmpty())
         reason = m_phones.problem();
     if (reason == m_failureReason)

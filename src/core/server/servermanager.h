@@ -55,6 +55,7 @@ public:
     void setLogs(const QString &logs);
     QString lastPairedDevice() const { return m_phones.lastPairedDevice(); }
     PairingSession *pairingSession() { return &m_phones.session(); }
+    // In the user's language: the windows, the tray and quivractl show it as it is.
     QString failureReason() const { return m_failureReason; }
 
     Q_INVOKABLE void startServer() { m_server.start(); }

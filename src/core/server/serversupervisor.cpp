@@ -161,9 +161,9 @@ void ServerSupervisor::onOutput(const QByteArray &chunk)
     qCInfo(lcServerOutput).nospace().noquote() << *entry;
 }
 
-QString ServerSupervisor::failureReason() const
+QString ServerSupervisor::failureReason(bool translated) const
 {
-    return serverfailure::describe(m_failure, m_port, serverFifo());
+    return serverfailure::describe(m_failure, m_port, serverFifo(), translated);
 }
 
 void ServerSupervisor::setFailure(const ServerFailure &failure)

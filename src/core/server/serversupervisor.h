@@ -40,7 +40,8 @@ public:
 
     // Why the last start did not give a running server, or why it stopped by itself.
     ServerFailure failure() const { return m_failure; }
-    QString failureReason() const;
+    // English for the log; `translated` for a person (see serverfailure::describe).
+    QString failureReason(bool translated = false) const;
     // The pause before the next automatic start after an unexpected stop, while one is due.
     std::optional<std::chrono::milliseconds> pendingRestart() const;
     // A taken port keeps the server from starting; it starts once the port is free.
