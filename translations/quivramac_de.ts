@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation>Server starten</translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation>Server läuft</translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation>Server angehalten</translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -140,6 +148,10 @@
     <message>
         <source>Server</source>
         <translation>Server</translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
+        <translation>Server läuft auf Port %1</translation>
     </message>
 </context>
 <context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation>Kopplung beenden</translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation>Verbleibende Zeit: %1</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Kopplungscode %1</translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -315,6 +335,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Kopplungscode %1</translation>
     </message>
 </context>
 <context>
@@ -453,6 +477,18 @@
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>wird geprüft</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
     </message>
 </context>
 <context>

@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -139,6 +147,10 @@
     </message>
     <message>
         <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -314,6 +334,10 @@
     </message>
     <message>
         <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -452,6 +476,18 @@
     </message>
     <message>
         <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation>Iniciar servidor</translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation>Servidor en marcha</translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation>Servidor detenido</translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -140,6 +148,10 @@
     <message>
         <source>Server</source>
         <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
+        <translation>Servidor en marcha en el puerto %1</translation>
     </message>
 </context>
 <context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation>Detener vinculación</translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation>Tiempo restante: %1</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Código de vinculación %1</translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -315,6 +335,10 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Código de vinculación %1</translation>
     </message>
 </context>
 <context>
@@ -453,6 +477,18 @@
     <message>
         <source>Back</source>
         <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en espera</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>comprobando</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>error</translation>
     </message>
 </context>
 <context>

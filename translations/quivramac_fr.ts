@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation>Démarrer le serveur</translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation>Serveur en marche</translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation>Serveur arrêté</translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -140,6 +148,10 @@
     <message>
         <source>Server</source>
         <translation>Serveur</translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
+        <translation>Serveur en marche sur le port %1</translation>
     </message>
 </context>
 <context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation>Arrêter l’association</translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation>Temps restant : %1</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Code d’association %1</translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -315,6 +335,10 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Code d’association %1</translation>
     </message>
 </context>
 <context>
@@ -453,6 +477,18 @@
     <message>
         <source>Back</source>
         <translation>Retour</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>vérification en cours</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
     </message>
 </context>
 <context>

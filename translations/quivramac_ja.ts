@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation>サーバを起動</translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation>サーバー実行中</translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation>サーバー停止中</translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -140,6 +148,10 @@
     <message>
         <source>Server</source>
         <translation>サーバ</translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
+        <translation>サーバーはポート %1 で実行中</translation>
     </message>
 </context>
 <context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation>ペアリングを停止</translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation>残り時間: %1</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>ペアリングコード %1</translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -314,6 +334,10 @@
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>ペアリングコード %1</translation>
     </message>
 </context>
 <context>
@@ -452,6 +476,18 @@
     <message>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>確認中</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
     </message>
 </context>
 <context>

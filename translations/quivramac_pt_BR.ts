@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation>Iniciar servidor</translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation>Servidor em execução</translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation>Servidor parado</translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -140,6 +148,10 @@
     <message>
         <source>Server</source>
         <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
+        <translation>Servidor em execução na porta %1</translation>
     </message>
 </context>
 <context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation>Parar pareamento</translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation>Tempo restante: %1</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Código de pareamento %1</translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -315,6 +335,10 @@
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>Código de pareamento %1</translation>
     </message>
 </context>
 <context>
@@ -453,6 +477,18 @@
     <message>
         <source>Back</source>
         <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>aguardando</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>verificando</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falhou</translation>
     </message>
 </context>
 <context>

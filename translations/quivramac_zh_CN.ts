@@ -126,6 +126,14 @@
         <source>Start Server</source>
         <translation>启动服务器</translation>
     </message>
+    <message>
+        <source>Server running</source>
+        <translation>服务器正在运行</translation>
+    </message>
+    <message>
+        <source>Server stopped</source>
+        <translation>服务器已停止</translation>
+    </message>
 </context>
 <context>
     <name>HeaderSection</name>
@@ -140,6 +148,10 @@
     <message>
         <source>Server</source>
         <translation>服务器</translation>
+    </message>
+    <message>
+        <source>Server running on port %1</source>
+        <translation>服务器正在端口 %1 上运行</translation>
     </message>
 </context>
 <context>
@@ -251,6 +263,14 @@
         <source>Stop Pairing</source>
         <translation>停止配对</translation>
     </message>
+    <message>
+        <source>Time left: %1</source>
+        <translation>剩余时间：%1</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>配对码 %1</translation>
+    </message>
 </context>
 <context>
     <name>PairingSession</name>
@@ -314,6 +334,10 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Pairing code %1</source>
+        <translation>配对码 %1</translation>
     </message>
 </context>
 <context>
@@ -452,6 +476,18 @@
     <message>
         <source>Back</source>
         <translation>返回</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>正在检查</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
     </message>
 </context>
 <context>

@@ -77,7 +77,7 @@ ScrollView {
                     radius: 4
                     color: ServerManager.isRunning ? Theme.green : Theme.gray
                     Accessible.role: Accessible.Graphic
-                    Accessible.name: ServerManager.isRunning ? "Server running" : "Server stopped"
+                    Accessible.name: ServerManager.isRunning ? qsTr("Server running") : qsTr("Server stopped")
                 }
                 Text {
                     textFormat: Text.PlainText

@@ -13,7 +13,7 @@ RowLayout {
     Rectangle {
         objectName: "statusDot"
         Accessible.role: Accessible.Graphic
-        Accessible.name: header.isRunning ? "Server running on port " + header.port : "Server off"
+        Accessible.name: header.isRunning ? qsTr("Server running on port %1").arg(header.port) : qsTr("Server off")
         width: 8
         height: 8
         radius: 4

@@ -42,7 +42,7 @@ ColumnLayout {
                     textFormat: Text.PlainText
                     objectName: "countdownText"
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: "Time left: " + countdown.text
+                    Accessible.name: qsTr("Time left: %1").arg(countdown.text)
                     text: countdown.text
                     font.pixelSize: 11
                     font.family: Theme.monospace
@@ -55,7 +55,7 @@ ColumnLayout {
                 Layout.fillWidth: true
                 // One six-digit number to a screen reader, not six boxes.
                 Accessible.role: Accessible.StaticText
-                Accessible.name: "Pairing code " + ServerManager.pairingToken
+                Accessible.name: qsTr("Pairing code %1").arg(ServerManager.pairingToken)
                 spacing: 6
                 Repeater {
                     // By position, so repeated digits are boxes of their own.

@@ -99,7 +99,7 @@ Item {
                     id: codeRow
                     objectName: "onboardingCode"
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: "Pairing code " + Onboarding.code
+                    Accessible.name: qsTr("Pairing code %1").arg(Onboarding.code)
                     spacing: 12
                     Repeater {
                         model: Onboarding.code.length

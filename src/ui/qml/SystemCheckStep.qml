@@ -30,8 +30,8 @@ Item {
         spacing: 12
         // Read as one line: the check and how it went.
         Accessible.role: Accessible.ListItem
-        Accessible.name: item.name + ": " + ["waiting", "checking", item.successMessage,
-                                              "failed"][item.state]
+        Accessible.name: item.name + ": " + [qsTr("waiting"), qsTr("checking"), item.successMessage,
+                                              qsTr("failed")][item.state]
         Item {
             width: 24
             height: 24
