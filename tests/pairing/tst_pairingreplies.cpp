@@ -77,8 +77,11 @@ private Q_SLOTS:
                  + "]" + tail));
     }
 
+    // Asked again after the machine changed, the same listener reports the change.
     void statusReportWithTailscaleIsReady()
     {
+        QVERIFY(exchange(m_fixture->port(), "GET /status HTTP/1.1\r\n\r\n")
+                    .contains("{\"ready\":false,"));
         makeSshDirectory();
         m_fixture->setInterfaces(
             { { "en0", true, "192.168.1.20" }, { "tailscale0", true, "100.101.102.103" } });

@@ -72,10 +72,6 @@ private Q_SLOTS:
         QVERIFY(harness.manager().isRunning());
         ui.toggleServer();
         QTRY_VERIFY(!harness.manager().isRunning());
-
-        QVERIFY(ui.autoStartServer() == false); // the harness turned it off
-        ui.setAutoStartServer(true);
-        QVERIFY(ui.autoStartServer());
     }
 
     void pairingScreenTexts()

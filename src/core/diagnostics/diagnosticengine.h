@@ -27,7 +27,8 @@ public:
     QList<DiagnosticCheck> checks() const { return m_checks; }
     bool isRunning() const { return m_isRunning; }
 
-    // Verdicts are stored in the order they complete; finished() follows the last.
+    // Verdicts are stored in the order they complete; finished() follows the last, possibly
+    // before this returns.
     void runAllChecks();
     void runCheck(const QString &id);
     bool allCriticalPassed() const { return allCriticalPassed(m_checks); }
@@ -41,8 +42,10 @@ Q_SIGNALS:
     void finished();
 
 private:
-    // Calls store(verdict) once, at once or (for the SSH probe) later.
-    void runProbe(const QString &id, const std::function<void(const DiagnosticStatus &)> &store);
+    // Calls store(verdict) once, at once or (for the SSH probe) later; with atOnce, the SSH
+    // probe's verdict too while it is reused.
+    void runProbe(const QString &id, const std::function<void(const DiagnosticStatus &)> &store,
+                  bool atOnce = false);
     void setStatus(const QString &id, const DiagnosticStatus &status);
 
     QList<DiagnosticCheck> m_checks;

@@ -18,11 +18,18 @@ SshProbe::~SshProbe()
         m_socket->abort();
 }
 
+std::optional<bool> SshProbe::reusableVerdict() const
+{
+    if (!m_socket && m_lastVerdictAge.isValid() && m_lastVerdictAge.elapsed() < reuseFor.count())
+        return m_lastVerdict;
+    return std::nullopt;
+}
+
 void SshProbe::probe(QObject *context, std::function<void(bool)> done)
 {
-    if (!m_socket && m_lastVerdictAge.isValid() && m_lastVerdictAge.elapsed() < reuseFor.count()) {
+    if (const std::optional<bool> verdict = reusableVerdict()) {
         QMetaObject::invokeMethod(
-            context, [done = std::move(done), verdict = m_lastVerdict] { done(verdict); },
+            context, [done = std::move(done), verdict = *verdict] { done(verdict); },
             Qt::QueuedConnection);
         return;
     }

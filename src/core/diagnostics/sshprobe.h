@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 class QTcpSocket;
 
@@ -30,6 +31,8 @@ public:
     // Calls done exactly once, on this thread and never from within this call, unless context
     // is destroyed first.
     void probe(QObject *context, std::function<void(bool accepting)> done);
+    // The last verdict while it is reused, for a caller that can take it at once.
+    std::optional<bool> reusableVerdict() const;
 
 private:
     void start();

@@ -127,8 +127,12 @@ void PairingConnection::send(const QByteArray &reply)
         if (QTcpSocket *replying = m_hold.takeForReply(this))
             m_socket = replying;
     }
-    if (m_socket->state() == QAbstractSocket::ConnectedState)
+    if (m_socket->state() == QAbstractSocket::ConnectedState) {
         m_socket->write(reply);
+        // Sent now as far as the socket takes it, without waiting: otherwise it would go out on
+        // the loop's next turn, and the connection close on the one after.
+        m_socket->flush();
+    }
     close();
 }
 

@@ -70,11 +70,14 @@ private:
     bool makeRoomFor(const QString &address);
     void handleRequest(const QString &request, PairingConnection *connection);
     void handleStatusRequest(PairingConnection *connection);
+    // Keeps a report for the status requests that follow in the same turn of the loop.
+    void shareForThisTurn(const QByteArray &report);
     void handlePairRequest(const QString &requestLine, const QString &request,
                            PairingConnection *connection);
 
     QTcpServer m_server;
     bool m_acceptScheduled = false;
+    bool m_tookOneThisTurn = false;
     platform::DnsSdAdvertiser m_advertiser;
     quint16 m_port = 8080;
     Setup m_setup;
@@ -84,6 +87,8 @@ private:
     // Shared by all status requests, so that they share its verdict.
     std::shared_ptr<SshProbe> m_sshProbe;
     int m_statusRequestsInProgress = 0;
+    // Empty from the loop's next turn on.
+    QByteArray m_reportThisTurn;
     QHash<QString, int> m_statusRequestsPerAddress;
     std::chrono::milliseconds m_readDeadline = PairingConnection::defaultReadDeadline;
 };

@@ -41,6 +41,12 @@ void PairingListener::handleRequest(const QString &request, PairingConnection *c
 
 void PairingListener::handleStatusRequest(PairingConnection *connection)
 {
+    // Requests that arrive together share one report, worked out in this turn of the loop: the
+    // state is the same for all of them, and the phone still hears the state of now.
+    if (!m_reportThisTurn.isEmpty()) {
+        connection->sendJSONResponse(m_reportThisTurn);
+        return;
+    }
     // Each report waits for the SSH probe; a bounded number keeps a flood from piling up, and a
     // bound per sender keeps one sender's burst from taking everyone else's share.
     const QString address = connection->peerAddress();
@@ -59,11 +65,20 @@ void PairingListener::handleStatusRequest(PairingConnection *connection)
                 if (--m_statusRequestsPerAddress[address] == 0)
                     m_statusRequestsPerAddress.remove(address);
                 engine->deleteLater();
+                const QByteArray report = statusjson::encode(engine->makeStatusResponse(m_port));
+                shareForThisTurn(report);
                 if (connection)
-                    connection->sendJSONResponse(
-                        statusjson::encode(engine->makeStatusResponse(m_port)));
+                    connection->sendJSONResponse(report);
             });
     engine->runAllChecks();
+}
+
+void PairingListener::shareForThisTurn(const QByteArray &report)
+{
+    if (m_reportThisTurn.isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this] { m_reportThisTurn.clear(); }, Qt::QueuedConnection);
+    m_reportThisTurn = report;
 }
 
 void PairingListener::handlePairRequest(const QString &requestLine, const QString &request,

@@ -1,7 +1,5 @@
 #include "net/localaddress.h"
 
-#include <QNetworkInterface>
-
 namespace net {
 namespace {
 
@@ -14,21 +12,6 @@ bool isTailscale(const InterfaceAddress &entry)
 }
 
 } // namespace
-
-QList<InterfaceAddress> systemInterfaceAddresses()
-{
-    QList<InterfaceAddress> result;
-    const auto interfaces = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface &interface : interfaces) {
-        const auto entries = interface.addressEntries();
-        for (const QNetworkAddressEntry &entry : entries) {
-            const QHostAddress ip = entry.ip();
-            result.append({ interface.name(), ip.protocol() == QAbstractSocket::IPv4Protocol,
-                            ip.toString() });
-        }
-    }
-    return result;
-}
 
 bool isTailscaleInterface(const QString &interfaceName)
 {

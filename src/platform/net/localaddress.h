@@ -15,6 +15,7 @@ struct InterfaceAddress
     QString address; // numeric text
 };
 
+// The machine's addresses; on Linux only the IPv4 ones, the only ones phones are given.
 QList<InterfaceAddress> systemInterfaceAddresses();
 
 // Tailscale's own interface: "utun" on macOS, "tailscale" on Linux, with a 100.x address.

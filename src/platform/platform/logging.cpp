@@ -1,7 +1,9 @@
 #include "platform/logging.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QMutex>
+#include <QPointer>
 #include <QThread>
 
 #include <cstdio>
@@ -19,14 +21,40 @@ QtMessageHandler previousHandler = nullptr;
 AppLog appLog;
 ConsoleSink consoleSink;
 thread_local bool handling = false;
+bool unflushed = false;
+
+// On the main thread, with its loop: flushes standard output each time the loop is about to
+// wait, and says so. Called with the mutex held.
+bool flushBeforeTheLoopWaits()
+{
+    const auto *app = QCoreApplication::instance();
+    if (!app || QThread::currentThread() != app->thread())
+        return false;
+    auto *dispatcher = QAbstractEventDispatcher::instance();
+    if (!dispatcher)
+        return false;
+    static QPointer<QAbstractEventDispatcher> hooked;
+    if (hooked != dispatcher) {
+        hooked = dispatcher;
+        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, [] {
+            QMutexLocker lock(&mutex);
+            if (std::exchange(unflushed, false))
+                std::fflush(stdout);
+        });
+    }
+    unflushed = true;
+    return true;
+}
 
 void writeToStdout(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
     std::fputc('\n', stdout);
-    // Flushed per line so that a supervisor or a pipe sees each line as it happens.
-    std::fflush(stdout);
+    // A supervisor or a pipe sees each line as it happens: before the loop waits again, so that
+    // the lines of one turn (four for a status request) cost one write rather than one each.
+    if (!flushBeforeTheLoopWaits())
+        std::fflush(stdout);
 }
 
 void toConsole(const QString &text)

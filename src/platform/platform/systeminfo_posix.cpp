@@ -7,9 +7,13 @@ namespace platform {
 
 QString userName()
 {
-    if (const passwd *entry = ::getpwuid(::getuid()))
-        return QString::fromLocal8Bit(entry->pw_name);
-    return qEnvironmentVariable("USER");
+    // Looked up once: the process's user does not change, and every status report names it.
+    static const QString name = [] {
+        if (const passwd *entry = ::getpwuid(::getuid()))
+            return QString::fromLocal8Bit(entry->pw_name);
+        return qEnvironmentVariable("USER");
+    }();
+    return name;
 }
 
 } // namespace platform
