@@ -25,7 +25,8 @@ export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/ho
 export XDG_RUNTIME_DIR=$work/run
 mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
 xvfb_pid= bus_pid= app_pid=
-trap 'for pid in $app_pid $bus_pid $xvfb_pid; do kill "$pid" 2>/dev/null; done; wait; rm -rf "$work"' EXIT
+# "|| true": under set -e a kill of a process already gone would end the trap before the rest.
+trap 'for pid in $app_pid $bus_pid $xvfb_pid; do kill "$pid" 2>/dev/null || true; done; wait; rm -rf "$work"' EXIT
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 
 display=$((100 + RANDOM % 800))

@@ -26,7 +26,8 @@ export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/ho
 export XDG_RUNTIME_DIR=$work/run
 mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
 weston_pid= app_pid=
-trap '[ -n "$app_pid" ] && kill "$app_pid" 2>/dev/null; [ -n "$weston_pid" ] && kill "$weston_pid" 2>/dev/null; wait; rm -rf "$work"' EXIT
+# "|| true": under set -e a kill of a process already gone would end the trap before the rest.
+trap '[ -n "$app_pid" ] && kill "$app_pid" 2>/dev/null || true; [ -n "$weston_pid" ] && kill "$weston_pid" 2>/dev/null || true; wait; rm -rf "$work"' EXIT
 unset DISPLAY QT_QPA_PLATFORM XDG_SESSION_TYPE
 
 weston --backend=headless-backend.so --socket=quivra --idle-time=0 >"$work/weston.log" 2>&1 &
